@@ -1,0 +1,78 @@
+#include "form.h"
+
+#include "formregistry.h"
+#include "guard.h"
+
+#include <QCloseEvent>
+#include <QWidget>
+
+namespace zt {
+
+namespace {
+
+// Turns the close of a window by its frame into the form's unload, through the
+// guard; the window itself never closes on its own.
+class FrameCloseFilter : public QObject {
+public:
+    FrameCloseFilter(Form& form, QObject* parent) : QObject(parent), m_form(form) {}
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Close && watched == m_form.window()) {
+            event->ignore();
+            Guard::run([this] { m_form.unload(); });
+            return true;
+        }
+        return false;
+    }
+
+private:
+    Form& m_form;
+};
+
+} // namespace
+
+Form::Form(FormRegistry& forms) : m_forms(forms) {}
+
+Form::~Form() = default;
+
+Services& Form::services() const {
+    return m_forms.services();
+}
+
+void Form::setWindow(QWidget* window) {
+    m_window.reset(window);
+    window->installEventFilter(new FrameCloseFilter(*this, window));
+}
+
+void Form::show() {
+    if (!m_window)
+        return;
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+void Form::hide() {
+    if (m_window)
+        m_window->hide();
+}
+
+bool Form::isVisible() const {
+    return m_window && m_window->isVisible();
+}
+
+QString Form::caption() const {
+    return m_window ? m_window->windowTitle() : QString();
+}
+
+void Form::setCaption(const QString& caption) {
+    if (m_window)
+        m_window->setWindowTitle(caption);
+}
+
+bool Form::unload() {
+    return m_forms.unload(*this);
+}
+
+} // namespace zt

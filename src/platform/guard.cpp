@@ -1,0 +1,86 @@
+#include "guard.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace zt {
+
+namespace {
+
+int g_depth = 0;
+
+void defaultEnding(const RuntimeFailure& failure) {
+    if (qobject_cast<QApplication*>(QCoreApplication::instance())) {
+        QMessageBox box(QMessageBox::Critical, QCoreApplication::applicationName(),
+                        Guard::boxText(failure), QMessageBox::Ok);
+        box.exec();
+    } else {
+        std::fprintf(stderr, "%s\n", failure.what());
+    }
+    std::fflush(nullptr);
+    std::_Exit(1);
+}
+
+void defaultProcessEnd() {
+    std::fflush(nullptr);
+    std::_Exit(0);
+}
+
+Guard::Ending g_ending = defaultEnding;
+Guard::ProcessEnd g_processEnd = defaultProcessEnd;
+
+struct DepthScope {
+    DepthScope() { ++g_depth; }
+    ~DepthScope() { --g_depth; }
+};
+
+} // namespace
+
+bool Guard::run(const std::function<void()>& body) {
+    DepthScope scope;
+    try {
+        body();
+        return true;
+    } catch (const RuntimeFailure& failure) {
+        g_ending(failure);
+    } catch (const ProcessEnded&) {
+    } catch (const std::exception& e) {
+        // Anything else is a fault of the program itself; the user sees it the way
+        // the run time reports an internal error.
+        g_ending(RuntimeFailure(51, QStringLiteral("Internal error (%1)").arg(e.what())));
+    }
+    return false;
+}
+
+void Guard::setEnding(Ending ending) {
+    g_ending = ending ? std::move(ending) : defaultEnding;
+}
+
+void Guard::setProcessEnd(ProcessEnd end) {
+    g_processEnd = end ? std::move(end) : defaultProcessEnd;
+}
+
+void Guard::restoreDefaults() {
+    g_ending = defaultEnding;
+    g_processEnd = defaultProcessEnd;
+}
+
+int Guard::depth() {
+    return g_depth;
+}
+
+void Guard::endProcess() {
+    g_processEnd();
+    throw ProcessEnded{};
+}
+
+QString Guard::boxText(const RuntimeFailure& failure) {
+    return QStringLiteral("Run-time error '%1':\n\n%2")
+        .arg(failure.number())
+        .arg(failure.description());
+}
+
+} // namespace zt
