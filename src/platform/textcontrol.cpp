@@ -1,0 +1,59 @@
+#include "textcontrol.h"
+
+#include "runtimefailure.h"
+
+#include <algorithm>
+
+namespace zt {
+
+void TextControl::setText(const QString& text) {
+    m_text = text;
+    m_selStart = 0;
+    m_selLength = 0;
+    notifyObserver();
+    fireChange();
+}
+
+void TextControl::setSelStart(int start) {
+    if (start < 0)
+        throw RuntimeFailure::invalidPropertyValue();
+    m_selStart = std::min<int>(start, m_text.size());
+    m_selLength = 0;
+    notifyObserver();
+}
+
+void TextControl::setSelLength(int length) {
+    if (length < 0)
+        throw RuntimeFailure::invalidPropertyValue();
+    m_selLength = std::min<int>(length, m_text.size() - m_selStart);
+    notifyObserver();
+}
+
+QString TextControl::selText() const {
+    return m_text.mid(m_selStart, m_selLength);
+}
+
+void TextControl::setSelText(const QString& text) {
+    m_text.replace(m_selStart, m_selLength, text);
+    m_selStart += text.size();
+    m_selLength = 0;
+    notifyObserver();
+    fireChange();
+}
+
+void TextControl::fireChange() {
+    // A handler may add handlers while it runs; those join from the next change on.
+    // Each handler is copied before the call because adding one may move the list.
+    const std::size_t count = m_changeHandlers.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        Handler handler = m_changeHandlers[i];
+        handler();
+    }
+}
+
+void TextControl::notifyObserver() {
+    if (m_observer)
+        m_observer();
+}
+
+} // namespace zt

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace zt {
+
+// The text of a text box as the program edits it: a plain string (CR LF kept as two
+// characters) with a selection. Every assignment fires Change synchronously, inside
+// the assignment, before the next statement of the caller runs; a failure thrown by
+// a Change handler comes out of the assignment.
+class TextControl {
+public:
+    using Handler = std::function<void()>;
+
+    const QString& text() const { return m_text; }
+    // Replaces the whole text; the caret goes to 0. Fires Change.
+    void setText(const QString& text);
+
+    int selStart() const { return m_selStart; }
+    // Negative fails with 380; past the end is clamped. The selection length becomes 0.
+    void setSelStart(int start);
+
+    int selLength() const { return m_selLength; }
+    // Negative fails with 380; past the end is clamped.
+    void setSelLength(int length);
+
+    QString selText() const;
+    // Replaces the selection; the caret goes behind the new text. Fires Change.
+    void setSelText(const QString& text);
+
+    // A free value a form may keep with the control.
+    QString tag;
+
+    // Change handlers of the program, run in order on every assignment.
+    void addChangeHandler(Handler handler) { m_changeHandlers.push_back(std::move(handler)); }
+    // A view's listener, told of every change of text or selection. Views never throw.
+    void setObserver(Handler observer) { m_observer = std::move(observer); }
+
+private:
+    void fireChange();
+    void notifyObserver();
+
+    QString m_text;
+    int m_selStart = 0;
+    int m_selLength = 0;
+    std::vector<Handler> m_changeHandlers;
+    Handler m_observer;
+};
+
+} // namespace zt

@@ -1,0 +1,322 @@
+#include "texteditview.h"
+
+#include "guard.h"
+#include "linebreaks.h"
+
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QTextBlock>
+
+#include <algorithm>
+
+namespace zt {
+
+TextEditView::TextEditView(TextControl& control, QWidget* parent)
+    : QPlainTextEdit(parent), m_control(control) {
+    // Every edit goes through the control, whose history is the program's business.
+    setUndoRedoEnabled(false);
+    {
+        QScopedValueRollback showing(m_showing, true);
+        m_shown = m_control.text();
+        setPlainText(linebreaks::toDocument(m_shown));
+    }
+    showSelection();
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextEditView::mirrorSelection);
+    connect(this, &QPlainTextEdit::selectionChanged, this, &TextEditView::mirrorSelection);
+    connect(document(), &QTextDocument::contentsChange, this,
+            &TextEditView::documentChangedBehindUs);
+    m_control.setObserver([this] { showControl(); });
+}
+
+TextEditView::~TextEditView() {
+    m_control.setObserver(nullptr);
+    // The base class still moves the cursor while it dies; nothing of ours may run then.
+    disconnect(this, nullptr, this, nullptr);
+    disconnect(document(), nullptr, this, nullptr);
+}
+
+void TextEditView::cutSelection() {
+    if (isReadOnly() || !textCursor().hasSelection())
+        return;
+    copy();
+    replaceSelected(textCursor(), QString());
+}
+
+void TextEditView::deleteSelection() {
+    if (isReadOnly() || !textCursor().hasSelection())
+        return;
+    replaceSelected(textCursor(), QString());
+}
+
+void TextEditView::keyPressEvent(QKeyEvent* event) {
+    event->accept();
+    if (isReadOnly() || !handleEditingKey(event))
+        QPlainTextEdit::keyPressEvent(event);
+}
+
+// Every key that would change the text is dealt with here, if only by refusing it;
+// false leaves the key to the base class, which then only moves, selects or copies.
+bool TextEditView::handleEditingKey(QKeyEvent* event) {
+    QTextCursor cursor = textCursor();
+    const auto deleteUnlessSelected = [&](auto extend) {
+        if (!cursor.hasSelection())
+            extend();
+        replaceSelected(cursor, QString());
+    };
+    const auto extendTo = [&](QTextCursor::MoveOperation move) {
+        return [&cursor, move] { cursor.movePosition(move, QTextCursor::KeepAnchor); };
+    };
+
+    if (event->matches(QKeySequence::Cut)) {
+        cutSelection();
+    } else if (event->matches(QKeySequence::Paste)) {
+        paste();
+    } else if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo)) {
+        // Nothing to undo: the control keeps no history.
+    } else if (event->matches(QKeySequence::DeleteStartOfWord)) {
+        deleteUnlessSelected(extendTo(QTextCursor::PreviousWord));
+    } else if (event->matches(QKeySequence::DeleteEndOfWord)) {
+        deleteUnlessSelected(extendTo(QTextCursor::NextWord));
+    } else if (event->matches(QKeySequence::DeleteEndOfLine)) {
+        deleteUnlessSelected([&] {
+            if (cursor.atBlockEnd())
+                cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+            else
+                cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+        });
+    } else if (event->matches(QKeySequence::DeleteCompleteLine)) {
+        cursor.movePosition(QTextCursor::StartOfBlock);
+        cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+        replaceSelected(cursor, QString());
+    } else if (event->matches(QKeySequence::Delete)) {
+        deleteUnlessSelected(extendTo(QTextCursor::NextCharacter));
+    } else if (event->key() == Qt::Key_Backspace &&
+               !(event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier))) {
+        deleteBackward();
+    } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        replaceSelected(cursor, QStringLiteral("\n"));
+    } else if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) {
+        // Tab reaches the editor only when it does not move the focus.
+        if (event->key() == Qt::Key_Backtab || (event->modifiers() & ~Qt::KeypadModifier))
+            event->ignore();
+        else
+            replaceSelected(cursor, QStringLiteral("\t"));
+    } else if (event->key() == Qt::Key_Direction_L || event->key() == Qt::Key_Direction_R) {
+        // A plain text box has no per-paragraph direction to switch.
+    } else {
+        const QString text = event->text();
+        const Qt::KeyboardModifiers mods = event->modifiers();
+        const bool command = (mods & Qt::MetaModifier) ||
+                             ((mods & Qt::ControlModifier) && !(mods & Qt::AltModifier));
+        if (text.isEmpty() || !text.front().isPrint() || command)
+            return false;
+        replaceSelected(cursor, text);
+    }
+    return true;
+}
+
+void TextEditView::deleteBackward() {
+    QTextCursor cursor = textCursor();
+    if (!cursor.hasSelection()) {
+        int from = cursor.position() - 1;
+        if (from < 0)
+            return;
+        // A break is one character of the document, so a CR LF pair of the control goes
+        // whole; so does a surrogate pair.
+        if (from > 0 && document()->characterAt(from).isLowSurrogate() &&
+            document()->characterAt(from - 1).isHighSurrogate())
+            --from;
+        cursor.setPosition(from, QTextCursor::KeepAnchor);
+    }
+    replaceSelected(cursor, QString());
+}
+
+void TextEditView::inputMethodEvent(QInputMethodEvent* event) {
+    if (isReadOnly() || (event->commitString().isEmpty() && event->replacementLength() == 0)) {
+        QPlainTextEdit::inputMethodEvent(event);
+        return;
+    }
+    QTextCursor cursor = textCursor();
+    if (event->replacementLength() > 0 && !cursor.hasSelection()) {
+        const int from = cursor.position() + event->replacementStart();
+        cursor.setPosition(std::max(from, 0));
+        cursor.setPosition(
+            std::min(from + event->replacementLength(), document()->characterCount() - 1),
+            QTextCursor::KeepAnchor);
+    }
+    QPointer<TextEditView> self(this);
+    replaceSelected(cursor, event->commitString());
+    if (!self)
+        return;
+    // What is still being composed stays with the base class: it is drawn, not stored.
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    QPlainTextEdit::inputMethodEvent(&composing);
+    event->accept();
+}
+
+void TextEditView::insertFromMimeData(const QMimeData* source) {
+    if (isReadOnly() || !source || !source->hasText())
+        return;
+    replaceSelected(textCursor(), source->text());
+}
+
+void TextEditView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool editable = !isReadOnly();
+    const bool selected = textCursor().hasSelection();
+    QMenu menu(this);
+    menu.addAction(tr("Cu&t"), this, &TextEditView::cutSelection)->setEnabled(editable && selected);
+    menu.addAction(tr("&Copy"), this, &QPlainTextEdit::copy)->setEnabled(selected);
+    menu.addAction(tr("&Paste"), this, &QPlainTextEdit::paste)->setEnabled(editable && canPaste());
+    menu.addAction(tr("Delete"), this, &TextEditView::deleteSelection)
+        ->setEnabled(editable && selected);
+    menu.addSeparator();
+    menu.addAction(tr("Select All"), this, &QPlainTextEdit::selectAll)
+        ->setEnabled(!document()->isEmpty());
+    menu.exec(event->globalPos());
+}
+
+void TextEditView::dropEvent(QDropEvent* event) {
+    // Clears the drop caret the base class draws while dragging.
+    QDragLeaveEvent leave;
+    QPlainTextEdit::dragLeaveEvent(&leave);
+    if (isReadOnly() || !event->mimeData()->hasText()) {
+        event->ignore();
+        return;
+    }
+    const int at = cursorForPosition(event->position().toPoint()).position();
+    const bool fromHere = event->source() == this || event->source() == viewport();
+    if (fromHere && event->dropAction() == Qt::MoveAction) {
+        // Reported as a copy so that the drag's source removes nothing behind the control.
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        moveDroppedSelection(at);
+        return;
+    }
+    event->acceptProposedAction();
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(at);
+    replaceSelected(cursor, event->mimeData()->text());
+}
+
+// Moving a selection is one edit too: the span from the selection to the drop point is
+// replaced by its own pieces in the new order.
+void TextEditView::moveDroppedSelection(int dropPosition) {
+    const QTextCursor selection = textCursor();
+    const QString& text = m_control.text();
+    const int from = linebreaks::toModelPosition(text, selection.selectionStart());
+    const int to = linebreaks::toModelPosition(text, selection.selectionEnd());
+    const int at = linebreaks::toModelPosition(text, dropPosition);
+    if (at >= from && at <= to)
+        return;
+    if (at < from)
+        replaceInModel(at, to - at, text.mid(from, to - from) + text.mid(at, from - at));
+    else
+        replaceInModel(from, at - from, text.mid(to, at - to) + text.mid(from, to - from));
+}
+
+void TextEditView::replaceSelected(const QTextCursor& cursor, const QString& plainText) {
+    if (!cursor.hasSelection() && plainText.isEmpty())
+        return;
+    const QString& text = m_control.text();
+    const int start = linebreaks::toModelPosition(text, cursor.selectionStart());
+    const int end = linebreaks::toModelPosition(text, cursor.selectionEnd());
+    replaceInModel(start, end - start, linebreaks::toModel(plainText));
+}
+
+void TextEditView::replaceInModel(int start, int length, const QString& text) {
+    QPointer<TextEditView> self(this);
+    Guard::run([&] {
+        {
+            // The editor already shows this selection; only the control learns it.
+            QScopedValueRollback mirroring(m_mirroring, true);
+            m_control.setSelStart(start);
+            m_control.setSelLength(length);
+        }
+        m_control.setSelText(text);
+    });
+    if (self)
+        ensureCursorVisible();
+}
+
+// The control's observer: whatever changed, from the user or from the program, the
+// document is brought to the control's text by the smallest edit, then the selection.
+void TextEditView::showControl() {
+    if (m_mirroring)
+        return;
+    QScopedValueRollback showing(m_showing, true);
+    if (m_control.text() != m_shown) {
+        applyToDocument(m_shown, m_control.text());
+        m_shown = m_control.text();
+    }
+    showSelection();
+}
+
+void TextEditView::applyToDocument(const QString& before, const QString& after) {
+    const linebreaks::Replacement change = linebreaks::difference(before, after);
+    if (change.start == 0 && change.removed == before.size()) {
+        setPlainText(linebreaks::toDocument(after));
+        return;
+    }
+    QTextCursor cursor(document());
+    cursor.setPosition(linebreaks::toDocumentPosition(before, change.start));
+    cursor.setPosition(linebreaks::toDocumentPosition(before, change.start + change.removed),
+                       QTextCursor::KeepAnchor);
+    cursor.insertText(linebreaks::toDocument(change.inserted));
+}
+
+void TextEditView::showSelection() {
+    const QString& text = m_control.text();
+    const int start = linebreaks::toDocumentPosition(text, m_control.selStart());
+    const int end =
+        linebreaks::toDocumentPosition(text, m_control.selStart() + m_control.selLength());
+    QTextCursor cursor = textCursor();
+    // The same range keeps the direction the user selected it in.
+    if (cursor.selectionStart() == start && cursor.selectionEnd() == end)
+        return;
+    QScopedValueRollback showing(m_showing, true);
+    cursor.setPosition(start);
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void TextEditView::mirrorSelection() {
+    // While the document is out of step with the control its positions mean nothing.
+    if (m_showing || m_resyncPending)
+        return;
+    const QTextCursor cursor = textCursor();
+    const QString& text = m_control.text();
+    const int start = linebreaks::toModelPosition(text, cursor.selectionStart());
+    const int end = linebreaks::toModelPosition(text, cursor.selectionEnd());
+    if (start == m_control.selStart() && end - start == m_control.selLength())
+        return;
+    QScopedValueRollback mirroring(m_mirroring, true);
+    m_control.setSelStart(start);
+    m_control.setSelLength(end - start);
+}
+
+// Edits are all meant to pass through the control. Should some path of the base class
+// still change the document (a drag moved out to another widget, say), the document
+// is put back to the control's text once the event is over.
+void TextEditView::documentChangedBehindUs() {
+    if (m_showing || m_resyncPending)
+        return;
+    m_resyncPending = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_resyncPending = false;
+            QScopedValueRollback showing(m_showing, true);
+            m_shown = m_control.text();
+            setPlainText(linebreaks::toDocument(m_shown));
+            showSelection();
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace zt

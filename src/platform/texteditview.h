@@ -1,0 +1,60 @@
+#pragma once
+
+#include "textcontrol.h"
+
+#include <QPlainTextEdit>
+
+namespace zt {
+
+// The editor of a text box. It shows the TextControl's text and follows every change
+// the program makes to it; each edit of the user becomes one selection of the
+// affected range followed by one SelText assignment on the control, so the program's
+// Change chain runs once per keystroke, paste or cut. A selection made in the editor
+// is mirrored into SelStart and SelLength without a Change. Enter types CR LF.
+// setReadOnly(true) turns it into a viewer whose text can still be selected.
+// One view per control; the control must outlive it.
+class TextEditView : public QPlainTextEdit {
+    Q_OBJECT
+public:
+    explicit TextEditView(TextControl& control, QWidget* parent = nullptr);
+    ~TextEditView() override;
+
+    TextControl& control() const { return m_control; }
+
+    // The user's cut and delete of the selection, each one edit of the control.
+    void cutSelection();
+    void deleteSelection();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    // Replaces model[start, start + length) with text as the user's edit.
+    void replaceInModel(int start, int length, const QString& text);
+    // Replaces what the cursor selects (document positions) with text typed by the user.
+    void replaceSelected(const QTextCursor& cursor, const QString& plainText);
+    bool handleEditingKey(QKeyEvent* event);
+    void deleteBackward();
+    void moveDroppedSelection(int dropPosition);
+
+    void showControl();
+    void applyToDocument(const QString& before, const QString& after);
+    void showSelection();
+    void mirrorSelection();
+    void documentChangedBehindUs();
+
+    TextControl& m_control;
+    // The control's text as the document shows it now.
+    QString m_shown;
+    // Set while the view itself edits the document or moves its cursor.
+    bool m_showing = false;
+    // Set while the view puts the editor's selection into the control.
+    bool m_mirroring = false;
+    bool m_resyncPending = false;
+};
+
+} // namespace zt
