@@ -1,0 +1,236 @@
+#include "memoryengine.h"
+
+#include "desktop.h"
+#include "guard.h"
+#include "pagetext.h"
+#include "runtimefailure.h"
+#include "textfiles.h"
+
+#include <QRegularExpression>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace zt {
+
+namespace {
+
+// The blank page, laid out as the real engine writes it.
+const QString kBlankPage =
+    QStringLiteral("<HTML>\r\n<HEAD>\r\n</HEAD>\r\n<BODY></BODY>\r\n</HTML>\r\n");
+
+const QRegularExpression& frameTag() {
+    static const QRegularExpression tag(QStringLiteral(R"(<(/?)(html|head|body)(?=[\s>/]))"),
+                                        QRegularExpression::CaseInsensitiveOption);
+    return tag;
+}
+
+QRegularExpressionMatch firstStartTag(const QString& text, const QString& name) {
+    const QRegularExpression tag(QStringLiteral("<%1(?=[\\s>/])[^>]*>").arg(name),
+                                 QRegularExpression::CaseInsensitiveOption);
+    return tag.match(text);
+}
+
+// A text with no frame tags at all is a fragment; the real engine parses it into
+// the body of a page, so it is shown as one.
+QString asPage(const QString& text) {
+    if (frameTag().match(text).hasMatch())
+        return text;
+    QString content = text;
+    while (!content.isEmpty() && content.back().isSpace())
+        content.chop(1);
+    if (!content.isEmpty())
+        content += QLatin1String("\r\n");
+    return QStringLiteral("<HTML>\r\n<HEAD>\r\n</HEAD>\r\n<BODY>%1</BODY>\r\n</HTML>\r\n")
+        .arg(content);
+}
+
+// Behind a start tag and the line break that follows it.
+qsizetype afterTagLine(const QString& text, const QRegularExpressionMatch& tag) {
+    qsizetype at = tag.capturedEnd();
+    if (text.mid(at, 2) == QLatin1String("\r\n"))
+        return at + 2;
+    if (at < text.size() && (text[at] == u'\n' || text[at] == u'\r'))
+        return at + 1;
+    return at;
+}
+
+QString withMarker(QString page) {
+    const QString line = kEngineGeneratorMarker + QLatin1String("\r\n");
+    if (const auto head = firstStartTag(page, QStringLiteral("head")); head.hasMatch())
+        return page.insert(afterTagLine(page, head), line);
+    const QString head = QLatin1String("<HEAD>\r\n") + line + QLatin1String("</HEAD>\r\n");
+    if (const auto html = firstStartTag(page, QStringLiteral("html")); html.hasMatch())
+        return page.insert(afterTagLine(page, html), head);
+    return page.prepend(head);
+}
+
+QString withUpperFrameTags(const QString& page) {
+    QString result;
+    result.reserve(page.size());
+    qsizetype done = 0;
+    auto tags = frameTag().globalMatch(page);
+    while (tags.hasNext()) {
+        const auto tag = tags.next();
+        result += QStringView(page).mid(done, tag.capturedStart(2) - done);
+        result += tag.captured(2).toUpper();
+        done = tag.capturedEnd(2);
+    }
+    result += QStringView(page).mid(done);
+    return result;
+}
+
+QString plainTextOf(const QString& html) {
+    static const QRegularExpression tag(QStringLiteral("<[^>]*>"));
+    QString text = html;
+    text.remove(tag);
+    text.replace(QLatin1String("&nbsp;"), QLatin1String(" "), Qt::CaseInsensitive);
+    text.replace(QLatin1String("&lt;"), QLatin1String("<"), Qt::CaseInsensitive);
+    text.replace(QLatin1String("&gt;"), QLatin1String(">"), Qt::CaseInsensitive);
+    text.replace(QLatin1String("&quot;"), QLatin1String("\""), Qt::CaseInsensitive);
+    text.replace(QLatin1String("&#39;"), QLatin1String("'"));
+    text.replace(QLatin1String("&amp;"), QLatin1String("&"), Qt::CaseInsensitive);
+    return pagetext::withCrLf(text);
+}
+
+} // namespace
+
+MemoryEngine::MemoryEngine(Clipboard& clipboard) : m_clipboard(clipboard), m_text(kBlankPage) {}
+
+QString MemoryEngine::documentHTML() {
+    QString page = asPage(m_text);
+    if (pagetext::generatorMetaTags(page).isEmpty())
+        page = withMarker(page);
+    return pagetext::withCrLf(withUpperFrameTags(page));
+}
+
+void MemoryEngine::setDocumentHTML(const QString& html) {
+    m_text = html;
+    m_selectionStart = 0;
+    m_selectionLength = 0;
+}
+
+void MemoryEngine::execCommand(DhtmlCommand id) {
+    switch (id) {
+    case DECMD_SELECTALL:
+        setSelection(0, int(bodyContent().size()));
+        return;
+    case DECMD_COPY:
+        copySelection();
+        return;
+    case DECMD_CUT:
+        requireEditable();
+        copySelection();
+        replaceSelection(QString());
+        return;
+    case DECMD_DELETE:
+        requireEditable();
+        if (m_selectionLength == 0)
+            throw RuntimeFailure::invalidProcedureCall();
+        replaceSelection(QString());
+        return;
+    case DECMD_PASTE: {
+        requireEditable();
+        QString html = m_clipboard.html();
+        if (html.isEmpty())
+            html = pagetext::htmlOfPlainText(m_clipboard.text());
+        if (html.isEmpty())
+            throw RuntimeFailure::invalidProcedureCall();
+        replaceSelection(html);
+        return;
+    }
+    default:
+        throw RuntimeFailure::invalidProcedureCall();
+    }
+}
+
+void MemoryEngine::loadDocument(const QString& path) {
+    setDocumentHTML(textfiles::readAll(path));
+}
+
+void MemoryEngine::saveDocument(const QString& path) {
+    textfiles::write(path, documentHTML());
+}
+
+void MemoryEngine::newDocument() {
+    setDocumentHTML(kBlankPage);
+}
+
+void MemoryEngine::loadURL(const QString& url) {
+    m_url = url;
+    const QUrl address(url);
+    if (address.isLocalFile())
+        loadDocument(address.toLocalFile());
+    else
+        newDocument();
+}
+
+void MemoryEngine::setSelection(int start, int length) {
+    const int size = int(bodyContent().size());
+    m_selectionStart = std::clamp(start, 0, size);
+    m_selectionLength = std::clamp(length, 0, size - m_selectionStart);
+}
+
+bool MemoryEngine::selectText(const QString& text) {
+    const qsizetype at = bodyContent().indexOf(text);
+    if (at < 0 || text.isEmpty())
+        return false;
+    setSelection(int(at), int(text.size()));
+    return true;
+}
+
+QString MemoryEngine::bodyContent() const {
+    const Span body = bodySpan();
+    return m_text.mid(body.start, body.end - body.start);
+}
+
+void MemoryEngine::typeKey(QChar key) {
+    replaceSelection(pagetext::htmlOfPlainText(QString(key)));
+    if (onKeyPress)
+        Guard::run([&] { onKeyPress(key); });
+}
+
+void MemoryEngine::moveMouse() {
+    if (onMouseMove)
+        Guard::run([&] { onMouseMove(); });
+}
+
+void MemoryEngine::changeDisplay() {
+    if (onDisplayChanged)
+        Guard::run([&] { onDisplayChanged(); });
+}
+
+MemoryEngine::Span MemoryEngine::bodySpan() const {
+    if (!frameTag().match(m_text).hasMatch())
+        return {0, m_text.size()};
+    const auto body = firstStartTag(m_text, QStringLiteral("body"));
+    if (!body.hasMatch())
+        return {m_text.size(), m_text.size()};
+    const qsizetype end = m_text.lastIndexOf(QLatin1String("</body"), -1, Qt::CaseInsensitive);
+    return {body.capturedEnd(), std::max(end, body.capturedEnd())};
+}
+
+QString MemoryEngine::selectedHtml() const {
+    return bodyContent().mid(m_selectionStart, m_selectionLength);
+}
+
+void MemoryEngine::copySelection() {
+    if (m_selectionLength == 0)
+        throw RuntimeFailure::invalidProcedureCall();
+    const QString html = selectedHtml();
+    m_clipboard.setHtml(html, plainTextOf(html));
+}
+
+void MemoryEngine::replaceSelection(const QString& html) {
+    const Span body = bodySpan();
+    m_text.replace(body.start + m_selectionStart, m_selectionLength, html);
+    m_selectionStart += int(html.size());
+    m_selectionLength = 0;
+}
+
+void MemoryEngine::requireEditable() const {
+    if (m_browseMode)
+        throw RuntimeFailure::invalidProcedureCall();
+}
+
+} // namespace zt

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/pageengine.h"
+#include "support/scripted.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+#include <string>
+
+namespace zt {
+class WebPageEngine;
+}
+
+namespace zt::test {
+
+enum class EngineKind { Memory, Web };
+
+std::string kindName(EngineKind kind);
+
+// Two engines of one kind on one clipboard, with what a test needs beyond the
+// engine interface.
+class EnginePair {
+public:
+    virtual ~EnginePair() = default;
+    virtual PageEngine& first() = 0;
+    virtual PageEngine& second() = 0;
+    // Places the selection on the first occurrence of text in engine's page.
+    virtual bool selectText(PageEngine& engine, const QString& text) = 0;
+    MemoryClipboard clipboard;
+};
+
+// Engines are costly to start, so the suites share them: each test sets the page it
+// needs. release() ends them before the application goes.
+class EngineKit {
+public:
+    static EnginePair& pair(EngineKind kind);
+    static WebPageEngine& web();
+    static void release();
+};
+
+// Runs script in the page of a real engine, in the application world, and waits
+// for its answer.
+QVariant evaluate(WebPageEngine& engine, const QString& script);
+
+// Makes a failure that reaches the guard fail the running test, instead of
+// ending the process as in the program.
+void failAtGuard();
+
+// The page that the engines write for a body, with the marker in its head.
+QString pageWithMarker(const QString& body);
+
+} // namespace zt::test

@@ -1,0 +1,94 @@
+// What the in-memory engine adds for the program's tests: a selection placed by
+// offsets, typing, and the user's events.
+
+#include "enginekit.h"
+
+#include "platform/guard.h"
+#include "platform/memoryengine.h"
+#include "platform/runtimefailure.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+namespace zt::test {
+namespace {
+
+TEST(MemoryEngine, SelectionByOffsetsInTheBodyContent) {
+    MemoryClipboard clipboard;
+    MemoryEngine engine(clipboard);
+    engine.setDocumentHTML(QStringLiteral("<HTML><HEAD></HEAD><BODY><p>abc</p></BODY></HTML>"));
+    EXPECT_EQ(engine.bodyContent().toStdString(), "<p>abc</p>");
+
+    const struct {
+        int start, length;
+        int clampedStart, clampedLength;
+    } cases[] = {{3, 3, 3, 3}, {-4, 2, 0, 2}, {8, 50, 8, 2}, {99, 1, 10, 0}, {2, -1, 2, 0}};
+    for (const auto& c : cases) {
+        engine.setSelection(c.start, c.length);
+        EXPECT_EQ(engine.selectionStart(), c.clampedStart) << c.start;
+        EXPECT_EQ(engine.selectionLength(), c.clampedLength) << c.length;
+    }
+
+    engine.setSelection(3, 3);
+    engine.execCommand(DECMD_COPY);
+    EXPECT_EQ(clipboard.html().toStdString(), "abc");
+    EXPECT_FALSE(engine.selectText(QStringLiteral("missing")));
+    EXPECT_EQ(engine.selectionStart(), 3) << "a failed search leaves the selection";
+}
+
+TEST(MemoryEngine, TypingReplacesTheSelectionAndRaisesTheEvents) {
+    MemoryClipboard clipboard;
+    MemoryEngine engine(clipboard);
+    QString keys;
+    int moves = 0;
+    int changes = 0;
+    std::vector<int> failures;
+    Guard::setEnding([&](const RuntimeFailure& failure) { failures.push_back(failure.number()); });
+    engine.onKeyPress = [&](QChar key) {
+        keys += key;
+        if (key == u'!')
+            throw RuntimeFailure::overflow();
+    };
+    engine.onMouseMove = [&] { ++moves; };
+    engine.onDisplayChanged = [&] { ++changes; };
+
+    engine.setDocumentHTML(QStringLiteral("<BODY>one two</BODY>"));
+    ASSERT_TRUE(engine.selectText(QStringLiteral("two")));
+    for (QChar key : QStringLiteral("<2!"))
+        engine.typeKey(key);
+    engine.moveMouse();
+    engine.changeDisplay();
+
+    EXPECT_EQ(engine.bodyContent().toStdString(), "one &lt;2!");
+    EXPECT_EQ(keys.toStdString(), "<2!");
+    EXPECT_EQ(failures, std::vector<int>{RuntimeFailure::Overflow});
+    EXPECT_EQ(moves, 1);
+    EXPECT_EQ(changes, 1);
+    failAtGuard();
+}
+
+TEST(MemoryEngine, LoadURLKeepsTheAddressAndReadsLocalFiles) {
+    MemoryClipboard clipboard;
+    MemoryEngine engine(clipboard);
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("local.html"));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("<html><body><p>local</p></body></html>");
+    file.close();
+
+    const QString local = QUrl::fromLocalFile(path).toString();
+    engine.loadURL(local);
+    EXPECT_EQ(engine.loadedURL(), local);
+    EXPECT_EQ(engine.bodyContent().toStdString(), "<p>local</p>");
+
+    engine.loadURL(QStringLiteral("https://example.com/"));
+    EXPECT_EQ(engine.loadedURL().toStdString(), "https://example.com/");
+    EXPECT_EQ(engine.documentHTML(), pageWithMarker(QString()));
+}
+
+} // namespace
+} // namespace zt::test
