@@ -1,0 +1,218 @@
+#include "views.h"
+
+#include "platform/runtimefailure.h"
+
+#include <QAction>
+
+#include <gtest/gtest.h>
+
+using namespace zt;
+using namespace zt::test;
+
+namespace {
+
+const QString kUntitledZelvo = "Zelvo Tessara: By Orvek - () Untitled";
+
+} // namespace
+
+TEST(SourceFile, NewOnDirtyAnsweredNoGivesTheBlankPage) {
+    Views v;
+    v.tag() = v.file("old.html", "old");
+    v.area().setText("edited");
+    v.program.prompts.answers = {vbNo};
+    v.run([&] { v.zelvo.mnuew(); });
+
+    EXPECT_EQ(v.area().text(), document::blankPage());
+    EXPECT_EQ(v.area().text().count("\r\n"), 8);
+    EXPECT_EQ(v.star(), "");
+    EXPECT_EQ(v.tag(), "");
+    EXPECT_EQ(v.zelvo.caption(), kUntitledZelvo);
+    ASSERT_EQ(v.program.prompts.asked.size(), 1u);
+    EXPECT_EQ(v.program.prompts.asked[0].text, "File not saved. Save file now?");
+    EXPECT_EQ(v.program.prompts.asked[0].title, "Assistant: Zelvo");
+    EXPECT_EQ(v.program.prompts.asked[0].style, vbYesNo | vbQuestion);
+}
+
+TEST(SourceFile, NewOnDirtyAnsweredYesSavesUnderANewNameAndKeepsTheText) {
+    Views v;
+    const QString old = v.file("old.html", "old");
+    const QString chosen = v.program.scratch("new.html");
+    v.tag() = old;
+    v.area().setText("edited");
+    v.program.prompts.answers = {vbYes};
+    v.program.pickers.files = {chosen};
+    v.run([&] { v.zelvo.mnuew(); });
+
+    // The path was emptied first, so Save asked for a name though there was one.
+    ASSERT_EQ(v.program.pickers.asked.size(), 1u);
+    EXPECT_EQ(v.program.pickers.asked[0].kind, PickerRequest::Save);
+    EXPECT_EQ(v.area().text(), "edited");
+    EXPECT_EQ(readFile(chosen), "edited\r\n");
+    EXPECT_EQ(readFile(old), "old");
+    EXPECT_EQ(v.tag(), chosen);
+    EXPECT_EQ(v.star(), "");
+    EXPECT_EQ(v.fileName(), "");
+    EXPECT_TRUE(v.program.failures.empty());
+}
+
+TEST(SourceFile, SaveAsWritesTheOldPathAndRecordsTheNewOne) {
+    for (const bool visual : {false, true}) {
+        Views v;
+        const QString old = v.file("old.html", "old");
+        const QString chosen = v.program.scratch("chosen.html");
+        v.tag() = old;
+        v.area().setText("<P>current</P>");
+        v.txtComp().setDocumentHTML("<P>current</P>");
+        v.program.pickers.files = {chosen};
+        v.run([&] { visual ? v.tessara.mnuSaveAs() : v.zelvo.mnuSaveAs(); });
+
+        EXPECT_FALSE(QFile::exists(chosen)) << "visual " << visual;
+        EXPECT_TRUE(readFile(old).contains("<P>current</P>")) << "visual " << visual;
+        EXPECT_TRUE(readFile(old).endsWith("\r\n"));
+        EXPECT_EQ(v.tag(), chosen);
+        const Form& view = visual ? static_cast<Form&>(v.tessara) : v.zelvo;
+        EXPECT_TRUE(view.caption().endsWith(") " + chosen)) << view.caption().toStdString();
+        // Only the source view's Save As clears the mark.
+        EXPECT_EQ(v.star(), visual ? "*" : "");
+        EXPECT_EQ(v.fileName(), "");
+    }
+}
+
+TEST(SourceFile, SaveAsOnAnUntitledDocumentWritesNothing) {
+    for (const bool visual : {false, true}) {
+        Views v;
+        v.area().setText("dirty");
+        const QString captionBefore = visual ? v.tessara.caption() : v.zelvo.caption();
+        const QString chosen = v.program.scratch("never.html");
+        v.program.pickers.files = {chosen};
+        v.run([&] { visual ? v.tessara.mnuSaveAs() : v.zelvo.mnuSaveAs(); });
+
+        EXPECT_FALSE(QFile::exists(chosen));
+        EXPECT_EQ(v.tag(), "");
+        EXPECT_EQ(v.star(), "*");
+        EXPECT_EQ(visual ? v.tessara.caption() : v.zelvo.caption(), captionBefore);
+        EXPECT_EQ(v.fileName(), "");
+        EXPECT_TRUE(v.program.failures.empty());
+    }
+}
+
+TEST(SourceFile, OpenThenSaveWritesTheOpenedPathAndGrowsByOneBreakEachCycle) {
+    Views v;
+    const QString path = v.file("page.html", "<P>a</P>");
+    v.tag() = v.program.scratch("previous.html");
+    v.program.pickers.files = {path};
+    v.run([&] { v.zelvo.mnuOpen(); });
+
+    EXPECT_EQ(v.area().text(), "<P>a</P>");
+    EXPECT_EQ(v.tag(), path);
+    EXPECT_EQ(v.star(), "*") << "the load itself marks the document";
+    EXPECT_TRUE(v.zelvo.caption().endsWith("previous.html")) << "caption still shows the old name";
+    EXPECT_EQ(v.fileName(), path) << "the push failed before the name was cleared";
+    EXPECT_EQ(v.program.pickers.asked[0].file.defaultExt, "*.html");
+
+    for (int cycle = 1; cycle <= 3; ++cycle) {
+        v.run([&] { v.zelvo.mnuSave(); });
+        EXPECT_EQ(readFile(path), "<P>a</P>" + QString("\r\n").repeated(cycle));
+        v.area().setText(readFile(path));
+    }
+    EXPECT_EQ(v.program.pickers.asked.size(), 1u) << "Save with a path asks nothing";
+}
+
+TEST(SourceFile, OpenOfAMissingFileLeavesTheTextEmpty) {
+    Views v;
+    v.area().setText("kept?");
+    v.program.pickers.files = {v.program.scratch("missing.html")};
+    EXPECT_TRUE(v.run([&] { v.zelvo.mnuOpen(); }));
+    EXPECT_EQ(v.area().text(), "");
+    EXPECT_TRUE(v.program.failures.empty()) << "the failure ends the command silently";
+}
+
+TEST(SourceFile, RecentLoadsButSaveStillGoesToThePreviousPath) {
+    Views v;
+    const QString previous = v.file("previous.html", "x");
+    const QString other = v.file("other.html", "<P>other</P>");
+    v.tag() = previous;
+    v.zelvo.ui.recent[2]->setText(other);
+    v.run([&] { v.zelvo.recent_Click(2); });
+    EXPECT_EQ(v.area().text(), "<P>other</P>");
+    EXPECT_EQ(v.fileName(), other);
+    EXPECT_EQ(v.tag(), previous);
+
+    v.run([&] { v.zelvo.mnuSave(); });
+    EXPECT_EQ(readFile(previous), "<P>other</P>\r\n");
+    EXPECT_EQ(readFile(other), "<P>other</P>");
+}
+
+TEST(SourceFile, RecentOnADirtyDocumentAnsweredYesSavesAndOpensNothing) {
+    for (const bool visual : {false, true}) {
+        Views v;
+        const QString path = v.file("doc.html", "");
+        const QString other = v.file("other.html", "<P>other</P>");
+        v.tag() = path;
+        v.area().setText("<P>mine</P>");
+        v.txtComp().setDocumentHTML("<P>mine</P>");
+        (visual ? v.tessara.ui.recent : v.zelvo.ui.recent)[0]->setText(other);
+        v.program.prompts.answers = {vbYes};
+        v.run([&] { visual ? v.tessara.recent_Click(0) : v.zelvo.recent_Click(0); });
+
+        EXPECT_EQ(v.asked(),
+                  QStringList{"File not saved. Would you like to save your file first?"});
+        EXPECT_TRUE(readFile(path).contains("<P>mine</P>"));
+        EXPECT_EQ(v.tag(), path);
+        EXPECT_FALSE(v.area().text().contains("other"));
+    }
+}
+
+TEST(SourceFile, InsertFileAddsABreakAfterEveryLine) {
+    Views v;
+    const QString path = v.file("part.txt", "one\r\ntwo\nthree");
+    v.area().setText("[sel]rest");
+    v.area().setSelStart(0);
+    v.area().setSelLength(5);
+    v.program.pickers.files = {path};
+    v.run([&] { v.zelvo.mnuInsFile(); });
+    EXPECT_EQ(v.area().text(), "one\r\ntwo\r\nthree\r\nrest");
+    EXPECT_EQ(v.fileName(), path);
+
+    // Cancel has no path of its own: once a command has set CancelError, it ends
+    // the program.
+    v.zelvo.ui.comdlg.cancelError = true;
+    v.program.pickers.files = {std::nullopt};
+    EXPECT_FALSE(v.run([&] { v.zelvo.mnuInsFile(); }));
+    ASSERT_EQ(v.program.failures.size(), 1u);
+    EXPECT_EQ(v.program.failures[0].number(), RuntimeFailure::Cancel);
+}
+
+TEST(SourceFile, RecentKeysAfterOpensFromEachView) {
+    Views v;
+    const QString a = v.file("a.html", "<P>a</P>");
+    const QString b = v.file("b.html", "<P>b</P>");
+
+    // The source view shifts keys 1-5 down into 0-4 and adds the newest in 5, with
+    // no test for a name it already holds.
+    v.program.pickers.files = {a, a};
+    v.run([&] { v.zelvo.mnuOpen(); });
+    v.run([&] { v.zelvo.mnuOpen(); });
+    EXPECT_EQ(v.mru(4), a);
+    EXPECT_EQ(v.mru(5), a);
+    EXPECT_EQ(v.mru(3), "");
+    EXPECT_FALSE(v.zelvo.ui.recent[0]->isVisible());
+    EXPECT_EQ(v.zelvo.ui.recent[4]->text(), "") << "the source push never captions an entry";
+
+    // The visual view keeps keys 0-4, newest in 4, and skips a name it holds.
+    v.zelvo.ui.star.setText("");
+    v.program.pickers.files = {b, b};
+    v.run([&] { v.tessara.mnuOpen(); });
+    v.run([&] { v.tessara.mnuOpen(); });
+    EXPECT_EQ(v.mru(4), b);
+    EXPECT_EQ(v.mru(3), a);
+    EXPECT_EQ(v.mru(2), "") << "the second open of b moved nothing";
+    EXPECT_EQ(v.mru(5), a) << "key 5 is the source view's alone";
+    for (const auto* recent : {&v.zelvo.ui.recent, &v.tessara.ui.recent}) {
+        EXPECT_EQ((*recent)[4]->text(), b);
+        EXPECT_EQ((*recent)[3]->text(), a);
+        EXPECT_TRUE((*recent)[3]->isVisible());
+        EXPECT_FALSE((*recent)[2]->isVisible());
+    }
+    EXPECT_TRUE(v.program.failures.empty());
+}
