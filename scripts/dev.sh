@@ -9,7 +9,8 @@ build="$here/build"
 mode=${1:-run}
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-webengine-dev libgl-dev
-          libgtest-dev libbenchmark-dev libhunspell-dev hunspell-en-us)
+          libqt6svg6 adwaita-icon-theme libgtest-dev libbenchmark-dev libhunspell-dev
+          hunspell-en-us)
 
 missing=()
 for p in "${packages[@]}"; do

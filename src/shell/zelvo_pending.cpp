@@ -1,0 +1,79 @@
+// The entry points of commands whose work arrives with later parts of the
+// program. Each is wired to its menu item or key already and does nothing yet;
+// a command leaves this file when it is built.
+#include "zelvo.h"
+
+namespace zt {
+
+void Zelvo::mnuPreview() {}
+void Zelvo::mnuPageSetup() {}
+void Zelvo::mnuPrint() {}
+void Zelvo::mnuFind() {}
+void Zelvo::mnuFindNext() {}
+void Zelvo::mnuViewPreview() {}
+void Zelvo::mnuColourPicker() {}
+void Zelvo::mnuMetaGen() {}
+void Zelvo::mnuEditProperties() {}
+void Zelvo::mnuFont() {}
+void Zelvo::mnuImage() {}
+void Zelvo::mnuRollImage() {}
+void Zelvo::mnuPageTitle() {}
+void Zelvo::mnuBullets() {}
+void Zelvo::mnuNumbering() {}
+void Zelvo::mnuMorvane() {}
+void Zelvo::mnuiForm() {}
+void Zelvo::mnuTextBox() {}
+void Zelvo::mnuPassword() {}
+void Zelvo::mnuTextArea() {}
+void Zelvo::mnuButton() {}
+void Zelvo::mnuSubmit() {}
+void Zelvo::mnuReset() {}
+void Zelvo::mnuRadio() {}
+void Zelvo::mnuCheckbox() {}
+void Zelvo::mnuDropDown() {}
+void Zelvo::mnuFileUpload() {}
+void Zelvo::mnuFieldset() {}
+void Zelvo::mnuHidden() {}
+void Zelvo::mnuHyperlink() {}
+void Zelvo::mnuLinkMail() {}
+void Zelvo::mnuBookmarks() {}
+void Zelvo::mnuVisTbl() {}
+void Zelvo::mnuinstable() {}
+void Zelvo::mnuinsrowcol() {}
+void Zelvo::mnuRectangularBox() {}
+void Zelvo::mnusmartsel() {}
+void Zelvo::mnuSpell() {}
+void Zelvo::mnuAutoRecog() {}
+void Zelvo::mnuAutoDelete() {}
+void Zelvo::mnuFindEndTag() {}
+void Zelvo::mnuShowTempClip() {}
+void Zelvo::mnuCopyToTemp() {}
+void Zelvo::mnuRestore() {}
+void Zelvo::mnuPreventRightClick() {}
+void Zelvo::mnuDisImgTbar() {}
+void Zelvo::mnuProtectText() {}
+void Zelvo::mnuCrashWizard() {}
+void Zelvo::mnuText() {}
+void Zelvo::mnuMarquee() {}
+void Zelvo::mnuListLinks() {}
+void Zelvo::mnuInsLayer() {}
+void Zelvo::mnuFlash() {}
+void Zelvo::mnuMakeDefault() {}
+void Zelvo::mnuBookmarkPage() {}
+void Zelvo::mnuChangePointer() {}
+void Zelvo::mnuTemplates() {}
+void Zelvo::mnuCreateTemplate() {}
+void Zelvo::mnuImportTemplate() {}
+void Zelvo::mnuMoreTemplates() {}
+void Zelvo::mnuLayoutManager() {}
+void Zelvo::mnuStyleSheet() {}
+void Zelvo::mnuNavigator() {}
+void Zelvo::mnuFTPClient() {}
+void Zelvo::mnuPlugIn() {}
+void Zelvo::mnuHTMLtutorial() {}
+void Zelvo::mnuTipOfDay() {}
+void Zelvo::mnuAuthorOnline() {}
+void Zelvo::mnuAbout() {}
+void Zelvo::showFindMe() {}
+
+} // namespace zt
