@@ -130,11 +130,22 @@ QString Replace(const QString& s, const QString& find, const QString& with, int 
     return out;
 }
 
+// Letter by letter, as the run time converts: the text keeps its length, so a
+// position found in a converted copy stands for the same place in the original
+// (a whole-string conversion turns some letters into two, such as a capital I with
+// a dot above).
 QString LCase(const QString& s) {
-    return s.toLower();
+    QString out = s;
+    for (QChar& c : out)
+        c = c.toLower();
+    return out;
 }
+
 QString UCase(const QString& s) {
-    return s.toUpper();
+    QString out = s;
+    for (QChar& c : out)
+        c = c.toUpper();
+    return out;
 }
 
 QString LTrim(const QString& s) {

@@ -81,6 +81,9 @@ TEST(VbStrings, PiecesAndReplace) {
     EXPECT_EQ(Replace("abcabc", "a", "x", 1, 1), "xbcabc");
     EXPECT_EQ(Replace("aBc", "b", "x"), "aBc") << "binary comparison by default";
     EXPECT_EQ(Trim("  a b  "), "a b");
+    // Case changes keep the length, so positions found in a converted copy hold.
+    EXPECT_EQ(LCase(QString::fromUtf8("A\u0130B")).size(), 3);
+    EXPECT_EQ(UCase(QString::fromUtf8("stra\u00dfe")), QString::fromUtf8("STRA\u00dfE"));
     EXPECT_EQ(Hex(255), "FF");
     EXPECT_EQ(Hex(0xFF8000), "FF8000");
 }
