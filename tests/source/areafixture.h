@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/runtimefailure.h"
+#include "platform/textcontrol.h"
+
+#include <QString>
+
+#include <functional>
+#include <ostream>
+
+// Texts in failure messages as text, not as arrays of characters.
+inline void PrintTo(const QString& text, std::ostream* out) {
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace zt::test {
+
+// A bare text box with a selection, counting the Change events after it was set up.
+struct Area {
+    Area(const QString& text, int start, int length) {
+        control.setText(text);
+        control.setSelStart(start);
+        control.setSelLength(length);
+        control.addChangeHandler([this] { ++changes; });
+    }
+
+    TextControl control;
+    int changes = 0;
+};
+
+// The number of the run-time failure that body ends with, or 0 when it ends normally.
+inline int failureOf(const std::function<void()>& body) {
+    try {
+        body();
+    } catch (const RuntimeFailure& failure) {
+        return failure.number();
+    }
+    return 0;
+}
+
+} // namespace zt::test

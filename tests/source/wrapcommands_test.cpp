@@ -1,0 +1,272 @@
+#include "areafixture.h"
+
+#include "shell/views.h"
+#include "source/wrapcommands.h"
+
+#include <gtest/gtest.h>
+
+using namespace zt;
+using namespace zt::test;
+
+namespace {
+
+using Command = void (Zelvo::*)();
+
+const QString kDoc = "ab word cd";
+
+struct MemberCase {
+    const char* name;
+    Command command;
+    Command undo;
+    QString wrapped;
+    int wrappedLength;
+    int unwrappedLength;
+};
+
+// Every member's handler, on "word" selected at 3 in kDoc. The lengths are the ones
+// each command has always left, Big's extra character and Emphasis' short unwrap
+// included.
+const std::vector<MemberCase>& memberCases() {
+    static const std::vector<MemberCase> cases{
+        {"Bold", &Zelvo::mnubold, &Zelvo::mnubold, "ab <B>word</B> cd", 11, 4},
+        {"Italics", &Zelvo::mnuitalics, &Zelvo::mnuitalics, "ab <I>word</I> cd", 11, 4},
+        {"Underline", &Zelvo::mnuUnderline, &Zelvo::mnuUnderline, "ab <U>word</U> cd", 11, 4},
+        {"Abbreviation", &Zelvo::mnuAbbreviation, &Zelvo::mnuAbbreviation,
+         "ab <ABBR>word</ABBR> cd", 17, 4},
+        {"Big", &Zelvo::mnuBig, &Zelvo::mnuBig, "ab <BIG>word</BIG> cd", 16, 4},
+        {"Code", &Zelvo::mnuCode, &Zelvo::mnuCode, "ab <CODE>word</CODE> cd", 17, 4},
+        {"Emphasis", &Zelvo::mnuEmphasis, &Zelvo::mnuEmphasis, "ab <EM>word</EM> cd", 13, 1},
+        {"Keyboard", &Zelvo::mnuKeyboard, &Zelvo::mnuKeyboard, "ab <KBD>word</KBD> cd", 15, 4},
+        {"Preformat", &Zelvo::mnuPreformat, &Zelvo::mnuPreformat, "ab <PRE>word</PRE> cd", 15, 4},
+        {"Quote", &Zelvo::mnuQuote, &Zelvo::mnuQuote, "ab <QUOTE>word</QUOTE> cd", 19, 4},
+        {"Small", &Zelvo::mnuSmall, &Zelvo::mnuSmall, "ab <SMALL>word</SMALL> cd", 19, 4},
+        {"Strong", &Zelvo::mnuStrong, &Zelvo::mnuStrong, "ab <STRONG>word</STRONG> cd", 21, 4},
+        {"Subscript", &Zelvo::mnuSubscript, &Zelvo::mnuSubscript, "ab <SUB>word</SUB> cd", 15, 4},
+        {"Superscript", &Zelvo::mnuSuperscript, &Zelvo::mnuSuperscript, "ab <SUP>word</SUP> cd", 15,
+         4},
+        {"Comment", &Zelvo::mnuComment, &Zelvo::mnuComment, "ab <!--word--> cd", 11, 4},
+        {"Indent", &Zelvo::mnuIndent, &Zelvo::mnuOutdent, "ab <BLOCKQUOTE>word</BLOCKQUOTE> cd", 29,
+         4},
+    };
+    return cases;
+}
+
+} // namespace
+
+TEST(WrapCommands, EachMemberWrapsAndUnwrapsWithItsOwnTagsAndLengths) {
+    Views v;
+    int changes = 0;
+    v.area().addChangeHandler([&] { ++changes; });
+    for (const MemberCase& c : memberCases()) {
+        SCOPED_TRACE(c.name);
+        v.area().setText(kDoc);
+        v.area().setSelStart(3);
+        v.area().setSelLength(4);
+        v.zelvo.ui.star.setText("");
+        changes = 0;
+
+        ASSERT_TRUE(v.run([&] { (v.zelvo.*c.command)(); }));
+        EXPECT_EQ(v.area().text(), c.wrapped);
+        EXPECT_EQ(v.area().selStart(), 3);
+        EXPECT_EQ(v.area().selLength(), c.wrappedLength);
+        EXPECT_EQ(changes, 1);
+        EXPECT_EQ(v.star(), "*");
+
+        ASSERT_TRUE(v.run([&] { (v.zelvo.*c.undo)(); }));
+        EXPECT_EQ(v.area().text(), kDoc);
+        EXPECT_EQ(v.area().selStart(), 3);
+        EXPECT_EQ(v.area().selLength(), c.unwrappedLength);
+        EXPECT_EQ(changes, 3) << "one Change per tag removed";
+    }
+    EXPECT_TRUE(v.program.failures.empty());
+}
+
+TEST(WrapCommands, AnEmptySelectionDoesNothingAndLeavesTheDocumentClean) {
+    Views v;
+    v.area().setText(kDoc);
+    v.area().setSelStart(3);
+    v.zelvo.ui.star.setText("");
+    for (const MemberCase& c : memberCases()) {
+        SCOPED_TRACE(c.name);
+        ASSERT_TRUE(v.run([&] { (v.zelvo.*c.command)(); }));
+        ASSERT_TRUE(v.run([&] { (v.zelvo.*c.undo)(); }));
+    }
+    EXPECT_EQ(v.area().text(), kDoc);
+    EXPECT_EQ(v.area().selStart(), 3);
+    EXPECT_EQ(v.star(), "");
+}
+
+TEST(WrapCommands, TheLowerSpellingCountsAndTheClosingTagGoesInAnyCase) {
+    struct Case {
+        Wrap which;
+        QString tagged;
+        QString inner;
+        int selectedAfter;
+    };
+    const Case cases[] = {
+        {Wrap::Bold, "<b>word</B>", "word", 4},
+        {Wrap::Bold, "<B>word</b>", "word", 4},
+        {Wrap::Italics, "<i>word</I>", "word", 4},
+        {Wrap::Underline, "<u>word</u>", "word", 4},
+        {Wrap::Abbreviation, "<abbr>word</Abbr>", "word", 4},
+        {Wrap::Big, "<big>word</bIG>", "word", 3},
+        {Wrap::Code, "<code>word</Code>", "word", 4},
+        {Wrap::Emphasis, "<em>word</eM>", "word", 1},
+        {Wrap::Keyboard, "<kbd>word</Kbd>", "word", 4},
+        {Wrap::Preformat, "<pre>word</PRe>", "word", 4},
+        {Wrap::Quote, "<quote>word</Quote>", "word", 4},
+        {Wrap::Small, "<small>word</SMALL>", "word", 4},
+        {Wrap::Strong, "<strong>word</Strong>", "word", 4},
+        {Wrap::Subscript, "<sub>word</Sub>", "word", 4},
+        {Wrap::Superscript, "<sup>word</suP>", "word", 4},
+        {Wrap::Comment, "<!--word-->", "word", 4},
+        // Outdent takes any mixture of case, and always 25 from the length.
+        {Wrap::Outdent, "<BlockQuote>word</blockQUOTE>", "word", 4},
+        {Wrap::Outdent, "<blockquote>wordy words</BLOCKQUOTE>", "wordy words", 11},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.tagged.toStdString());
+        Area a(" " + c.tagged + " Tail", 1, int(c.tagged.size()));
+        runWrap(a.control, c.which);
+        EXPECT_EQ(a.control.text(), " " + c.inner + " Tail");
+        EXPECT_EQ(a.control.selStart(), 1);
+        EXPECT_EQ(a.control.selLength(), c.selectedAfter);
+    }
+}
+
+TEST(WrapCommands, OnlyTheExactSpellingsCountAsTagged) {
+    struct Case {
+        Wrap which;
+        QString selected;
+        QString after;
+    };
+    const Case cases[] = {
+        // Mixed case and attributes are not recognised: another pair goes round.
+        {Wrap::Abbreviation, "<Abbr>x</Abbr>", "<ABBR><Abbr>x</Abbr></ABBR>"},
+        {Wrap::Bold, "<B class=x>y</B>", "<B><B class=x>y</B></B>"},
+        {Wrap::Strong, " <STRONG>y</STRONG>", "<STRONG> <STRONG>y</STRONG></STRONG>"},
+        // Indent never tests: each use adds a pair.
+        {Wrap::Indent, "<BLOCKQUOTE>x</BLOCKQUOTE>",
+         "<BLOCKQUOTE><BLOCKQUOTE>x</BLOCKQUOTE></BLOCKQUOTE>"},
+        // Outdent only takes off; a blank in front of the tag means nothing to do.
+        {Wrap::Outdent, " <blockquote>x</blockquote>", " <blockquote>x</blockquote>"},
+        {Wrap::Outdent, "x", "x"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.selected.toStdString());
+        Area a("." + c.selected, 1, int(c.selected.size()));
+        runWrap(a.control, c.which);
+        EXPECT_EQ(a.control.text(), "." + c.after);
+    }
+}
+
+TEST(WrapCommands, TheClosingTagTakenIsTheFirstAtOrBehindTheSelection) {
+    struct Case {
+        const char* name;
+        QString text;
+        int start;
+        int length;
+        QString after;
+        int selectedAfter;
+    };
+    const Case cases[] = {
+        {"the second pair of two", "<B>one</B> <B>two</B>", 11, 10, "<B>one</B> two", 3},
+        {"nested: the inner closing goes", " <B>a<B>b</B></B>", 1, 16, " a<B>b</B>", 9},
+        {"closing far behind the selection", " <B>word and more</B>", 1, 7, " word and more", 0},
+        {"a closing tag in front is ignored", "</b> <b>x</b>", 5, 8, "</b> x", 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        Area a(c.text, c.start, c.length);
+        runWrap(a.control, Wrap::Bold);
+        EXPECT_EQ(a.control.text(), c.after);
+        EXPECT_EQ(a.control.selStart(), c.start);
+        EXPECT_EQ(a.control.selLength(), c.selectedAfter);
+    }
+}
+
+TEST(WrapCommands, BigAndEmphasisKeepTheirOwnNumbers) {
+    // Big selects one character more than it wrapped, up to the end of the text.
+    Area big("x y", 0, 1);
+    runWrap(big.control, Wrap::Big);
+    EXPECT_EQ(big.control.selText(), "<BIG>x</BIG> ");
+    Area bigAtEnd("x", 0, 1);
+    runWrap(bigAtEnd.control, Wrap::Big);
+    EXPECT_EQ(bigAtEnd.control.text(), "<BIG>x</BIG>");
+    EXPECT_EQ(bigAtEnd.control.selLength(), 12);
+    // ...and keeps one character fewer than it unwrapped.
+    Area unbig(" <BIG>xy</BIG>", 1, 13);
+    runWrap(unbig.control, Wrap::Big);
+    EXPECT_EQ(unbig.control.text(), " xy");
+    EXPECT_EQ(unbig.control.selText(), "x");
+
+    // Emphasis wraps right and unwraps 3 too many: a short selection fails on the way
+    // back, after both tags have gone.
+    Area em(" x", 1, 1);
+    runWrap(em.control, Wrap::Emphasis);
+    EXPECT_EQ(em.control.text(), " <EM>x</EM>");
+    EXPECT_EQ(em.control.selLength(), 10);
+    EXPECT_EQ(failureOf([&] { runWrap(em.control, Wrap::Emphasis); }),
+              RuntimeFailure::InvalidPropertyValue);
+    EXPECT_EQ(em.control.text(), " x");
+}
+
+TEST(WrapCommands, FailuresComeAtTheirStepWithTheTextAsItStoodThen) {
+    const QString a32761(32761, 'a');
+    const QString pad(32762, '.');
+    struct Case {
+        const char* name;
+        Wrap which;
+        QString text;
+        int start;
+        int length;
+        int failure;
+        QString after;
+    };
+    const Case cases[] = {
+        {"start above 32767", Wrap::Bold, QString(32800, 'a'), 32768, 1, RuntimeFailure::Overflow,
+         QString(32800, 'a')},
+        {"length above 32767", Wrap::Bold, QString(32800, 'a'), 0, 32768, RuntimeFailure::Overflow,
+         QString(32800, 'a')},
+        {"start at 32767 still works", Wrap::Italics, QString(32768, 'a'), 32767, 1, 0,
+         QString(32767, 'a') + "<I>a</I>"},
+        {"the new length overflows with the tags in", Wrap::Bold, a32761, 0, 32761,
+         RuntimeFailure::Overflow, "<B>" + a32761 + "</B>"},
+        {"Indent overflows the same way", Wrap::Indent, a32761, 0, 32743, RuntimeFailure::Overflow,
+         "<BLOCKQUOTE>" + QString(32743, 'a') + "</BLOCKQUOTE>" + QString(18, 'a')},
+        {"unwrap at the first character: the search start is 0", Wrap::Bold, "<B>x</B>", 0, 8,
+         RuntimeFailure::InvalidProcedureCall, "<B>x</B>"},
+        {"Comment at the first character", Wrap::Comment, "<!--x-->", 0, 8,
+         RuntimeFailure::InvalidProcedureCall, "<!--x-->"},
+        {"no closing tag: SelStart refuses -1", Wrap::Bold, " <B>x", 1, 4,
+         RuntimeFailure::InvalidPropertyValue, " <B>x"},
+        {"Outdent with no closing tag", Wrap::Outdent, " <BLOCKQUOTE>x", 1, 13,
+         RuntimeFailure::InvalidPropertyValue, " <BLOCKQUOTE>x"},
+        {"closing tag at 32767 is in reach", Wrap::Bold, " <B>x" + pad + "</B>", 1, 4,
+         RuntimeFailure::InvalidPropertyValue, " x" + pad},
+        {"closing tag beyond 32767", Wrap::Bold, " <B>x." + pad + "</B>", 1, 4,
+         RuntimeFailure::Overflow, " <B>x." + pad + "</B>"},
+        {"selection shorter than the number taken", Wrap::Bold, " <B>x</B>", 1, 4,
+         RuntimeFailure::InvalidPropertyValue, " x"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        Area a(c.text, c.start, c.length);
+        EXPECT_EQ(failureOf([&] { runWrap(a.control, c.which); }), c.failure);
+        // Compared as a whole: a failure should not print 32 thousand characters.
+        EXPECT_TRUE(a.control.text() == c.after);
+    }
+}
+
+TEST(WrapCommands, AFailureReachesTheGuardAsTheRunTimeFailure) {
+    Views v;
+    v.area().setText(" <EM>x</EM> rest");
+    v.area().setSelStart(1);
+    v.area().setSelLength(10);
+    v.zelvo.ui.star.setText("");
+    EXPECT_FALSE(v.run([&] { v.zelvo.mnuEmphasis(); }));
+    ASSERT_EQ(v.program.failures.size(), 1u);
+    EXPECT_EQ(v.program.failures[0].number(), RuntimeFailure::InvalidPropertyValue);
+    EXPECT_EQ(v.area().text(), " x rest");
+    EXPECT_EQ(v.star(), "*") << "the Change chain ran inside the removals";
+}
