@@ -1,8 +1,9 @@
 #include "tessara.h"
 
 #include "closing.h"
-#include "document.h"
 #include "commandmap.h"
+#include "document.h"
+#include "viewframe.h"
 #include "zelvo.h"
 
 #include "platform/eventwatcher.h"
@@ -16,8 +17,8 @@
 #include "visual/bridge.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QToolBar>
@@ -41,32 +42,8 @@ Tessara::Tessara(FormRegistry& forms)
     m_window->resize(twips(12000), twips(8400));
     setCaption(QStringLiteral("Untitled(): Zelvo Tessara 3.0 - By Orvek"));
 
-    buildMenus(*this, *m_window->menuBar(), tessaraMenus());
-    for (int i = 0; i < int(ui.recent.size()); ++i) {
-        QAction* item = ui.mnuRecent->menu()->addAction(QString());
-        item->setObjectName(QStringLiteral("recent(%1)").arg(i));
-        QObject::connect(item, &QAction::triggered, item,
-                         guarded([this, i](bool) { recent_Click(i); }));
-        ui.recent[std::size_t(i)] = item;
-    }
-
-    ui.Toolbar1 = m_window->addToolBar(QStringLiteral("Toolbar1"));
-    ui.Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
-    ui.Toolbar1->setMovable(false);
-    buildToolbar(*ui.Toolbar1, tessaraToolKeys(),
-                 [this](const QString& key) { Toolbar1_ButtonClick(key); });
-
-    auto* central = new QWidget;
-    m_window->setCentralWidget(central);
-    ui.frmformatbar = new QWidget(central);
-    ui.frmformatbar->setObjectName(QStringLiteral("frmformatbar"));
-    auto* formatRow = new QHBoxLayout(ui.frmformatbar);
-    formatRow->setContentsMargins(2, 2, 2, 2);
-    formatRow->setSpacing(1);
-    buildFormatBar(*this, *ui.frmformatbar, tessaraFormatButtons(),
-                   [this](const QString& text) { ui.StatusBar1->setPanelText(1, text); });
-    formatRow->addStretch(1);
-    ui.frmformatbar->setGeometry(0, 0, twips(12000), twips(900));
+    QWidget* central = buildViewFrame(*this, *m_window, tessaraMenus(), tessaraToolKeys(),
+                                      tessaraFormatButtons(), twips(900));
 
     ui.txtComp = services().makeEngine(central);
     place(*ui.txtComp, 0, twips(960), twips(11750), twips(5055));
@@ -81,10 +58,6 @@ Tessara::Tessara(FormRegistry& forms)
     ui.ClosePrev->setVisible(false);
     QObject::connect(ui.ClosePrev, &QToolButton::clicked, ui.ClosePrev,
                      guarded([this](bool) { ClosePrev_Click(); }));
-
-    ui.StatusBar1 = new StatusBar({0, 120, 90, 50, 50, 40}, m_window);
-    m_window->setStatusBar(ui.StatusBar1);
-    ui.StatusBar1->showKeyStates(4, 5, 6);
 
     ui.Timer1.onTimer = [this] { Timer1_Timer(); };
     ui.txtComp->onKeyPress = [this](QChar) { txtComp_onkeypress(); };
@@ -129,7 +102,9 @@ void Tessara::mnuEditor() {
     hide();
 }
 
-void Tessara::mnuViewEditor() { mnuEditor(); }
+void Tessara::mnuViewEditor() {
+    mnuEditor();
+}
 
 void Tessara::Toolbar1_ButtonClick(const QString& key) {
     try {

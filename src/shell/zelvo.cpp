@@ -1,8 +1,9 @@
 #include "zelvo.h"
 
 #include "closing.h"
-#include "document.h"
 #include "commandmap.h"
+#include "document.h"
+#include "viewframe.h"
 
 #include "platform/eventwatcher.h"
 #include "platform/formregistry.h"
@@ -17,9 +18,9 @@
 #include "visual/bridge.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QEvent>
 #include <QFontDatabase>
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QTextDocument>
@@ -33,42 +34,14 @@ Zelvo::Zelvo(FormRegistry& forms)
     m_window->resize(twips(12000), twips(8400));
     setCaption(QStringLiteral("Untitled(): Zelvo - By Orvek"));
 
-    buildMenus(*this, *m_window->menuBar(), zelvoMenus());
-    for (int i = 0; i < int(ui.recent.size()); ++i) {
-        QAction* item = qobject_cast<QMenu*>(ui.mnuRecent->menu())->addAction(QString());
-        item->setObjectName(QStringLiteral("recent(%1)").arg(i));
-        QObject::connect(item, &QAction::triggered, item,
-                         guarded([this, i](bool) { recent_Click(i); }));
-        ui.recent[std::size_t(i)] = item;
-    }
-
-    ui.Toolbar1 = m_window->addToolBar(QStringLiteral("Toolbar1"));
-    ui.Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
-    ui.Toolbar1->setMovable(false);
-    buildToolbar(*ui.Toolbar1, zelvoToolKeys(),
-                 [this](const QString& key) { Toolbar1_ButtonClick(key); });
-
-    auto* central = new QWidget;
-    m_window->setCentralWidget(central);
-    ui.frmformatbar = new QWidget(central);
-    ui.frmformatbar->setObjectName(QStringLiteral("frmformatbar"));
-    auto* formatRow = new QHBoxLayout(ui.frmformatbar);
-    formatRow->setContentsMargins(2, 2, 2, 2);
-    formatRow->setSpacing(1);
-    buildFormatBar(*this, *ui.frmformatbar, zelvoFormatButtons(),
-                   [this](const QString& text) { ui.StatusBar1->setPanelText(1, text); });
-    formatRow->addStretch(1);
-    ui.frmformatbar->setGeometry(0, 0, twips(12000), twips(600));
+    QWidget* central = buildViewFrame(*this, *m_window, zelvoMenus(), zelvoToolKeys(),
+                                      zelvoFormatButtons(), twips(600));
 
     ui.areaView = new TextEditView(ui.area, central);
     ui.areaView->setObjectName(QStringLiteral("area"));
     ui.areaView->setLineWrapMode(QPlainTextEdit::NoWrap);
     ui.areaView->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     ui.areaView->setGeometry(0, twips(600), twips(9000), twips(6400));
-
-    ui.StatusBar1 = new StatusBar({0, 120, 90, 50, 50, 40}, m_window);
-    m_window->setStatusBar(ui.StatusBar1);
-    ui.StatusBar1->showKeyStates(4, 5, 6);
 
     ui.area.addChangeHandler([this] { area_Change(); });
     new EventWatcher(m_window, QEvent::Resize, [this] { Form_Resize(); });
@@ -111,11 +84,17 @@ void Zelvo::area_Change() {
     ui.StatusBar1->setPanelText(1, QStringLiteral("Ready: Zelvo Tessara - By: Orvek"));
 }
 
-void Zelvo::mnuEdit() { ui.mnuFindNext->setEnabled(!ui.txtSearch.text().isEmpty()); }
+void Zelvo::mnuEdit() {
+    ui.mnuFindNext->setEnabled(!ui.txtSearch.text().isEmpty());
+}
 
-void Zelvo::Toolbar1_ButtonClick(const QString& key) { dispatchKey(*this, zelvoToolKeys(), key); }
+void Zelvo::Toolbar1_ButtonClick(const QString& key) {
+    dispatchKey(*this, zelvoToolKeys(), key);
+}
 
-void Zelvo::deleteKey() { ui.area.setSelText(QString()); }
+void Zelvo::deleteKey() {
+    ui.area.setSelText(QString());
+}
 
 void Zelvo::mnuTessara() {
     SwitchToVisual(forms());
