@@ -42,6 +42,15 @@ public:
 // Marks the abandonment of a guarded body after endProcess() in tests.
 struct ProcessEnded {};
 
+// The body of a handler with a failure path: a RuntimeFailure ends it silently at
+// the point where it happened, and what was done before stays done.
+template <class Body> void orEndSilently(Body body) {
+    try {
+        body();
+    } catch (const RuntimeFailure&) {
+    }
+}
+
 // Wraps a callable so that each call goes through the guard; for Qt connections.
 template <class F> auto guarded(F f) {
     return [f = std::move(f)](auto&&... args) {

@@ -2,6 +2,12 @@
 
 #include <QString>
 
+#include <functional>
+
+namespace zt {
+struct Services;
+}
+
 // The fixed texts of the open document that both views share.
 namespace zt::document {
 
@@ -19,5 +25,15 @@ QString caption(const QString& star, const QString& path);
 // The temporary crash file the source view's Exit deletes. The program names it
 // on the system drive; here it is the system's temporary folder.
 QString tempCrashFile();
+
+// "File not saved. Would you like to save your file first?": true for Yes.
+bool askSaveFirst(Services& services);
+
+// Exit from either view: one question, with no word of unsaved work. On No the
+// view's editor gets the focus back. On Yes the view's crash file is deleted (none
+// when crashFile is empty) and, if that worked, the crash setting is written; then
+// the process ends at once.
+void exitProgram(Services& services, const std::function<void()>& focusEditor,
+                 const QString& crashFile);
 
 } // namespace zt::document

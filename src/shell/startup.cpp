@@ -37,13 +37,6 @@ QPushButton* makeButton(QWidget* parent, const char* name, const QString& captio
     return button;
 }
 
-template <class Body> void orEndSilently(Body body) {
-    try {
-        body();
-    } catch (const RuntimeFailure&) {
-    }
-}
-
 } // namespace
 
 StartUp::StartUp(FormRegistry& forms) : Form(forms) {

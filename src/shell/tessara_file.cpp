@@ -20,13 +20,6 @@ namespace zt {
 
 namespace {
 
-template <class Body> void orEndSilently(Body body) {
-    try {
-        body();
-    } catch (const RuntimeFailure&) {
-    }
-}
-
 const QString kNewCaption = QStringLiteral("Untitled(): Zelvo Tessara 3.0 - By Orvek");
 
 } // namespace
@@ -69,10 +62,7 @@ void Tessara::mnuOpen() {
         openChosenFile();
     } else {
         comdlg.cancelError = true;
-        const int answer = services().prompts->msgBox(
-            QStringLiteral("File not saved. Would you like to save your file first?"),
-            vbYesNo | vbQuestion, document::kAssistant);
-        if (answer == vbYes) {
+        if (document::askSaveFirst(services())) {
             mnuSave();
         } else {
             comdlg.defaultExt = QStringLiteral("html");
@@ -129,10 +119,7 @@ void Tessara::recent_Click(int index) {
     Zelvo& zelvo = forms().get<Zelvo>();
     orEndSilently([&] {
         if (!zelvo.ui.star.text().isEmpty()) {
-            const int answer = services().prompts->msgBox(
-                QStringLiteral("File not saved. Would you like to save your file first?"),
-                vbYesNo | vbQuestion, document::kAssistant);
-            if (answer == vbYes) {
+            if (document::askSaveFirst(services())) {
                 mnuSave();
                 return;
             }
@@ -170,21 +157,9 @@ void Tessara::pushRecentVisual() {
 }
 
 void Tessara::mnuExit() {
-    const int answer = services().prompts->msgBox(QStringLiteral("Are you sure you want to exit?"),
-                                                  vbYesNo | vbQuestion | vbDefaultButton2,
-                                                  QStringLiteral("Confirm Exit: Zelvo Tessara"));
-    if (answer == vbNo) {
-        ui.txtComp->setFocus();
-        return;
-    }
-    orEndSilently([&] {
-        // The bare name the crash timer carries, not the path it saves to.
-        if (!ui.TimeCrashSave.tag.isEmpty() && !QFile::remove(ui.TimeCrashSave.tag))
-            throw RuntimeFailure::fileNotFound();
-        services().settings->saveSetting(document::kApp, QStringLiteral("Crash"),
-                                         QStringLiteral("crash"), QStringLiteral("0"));
-    });
-    Guard::endProcess();
+    // The bare name the crash timer carries, not the path it saves to.
+    document::exitProgram(
+        services(), [this] { ui.txtComp->setFocus(); }, ui.TimeCrashSave.tag);
 }
 
 } // namespace zt

@@ -18,18 +18,6 @@
 
 namespace zt {
 
-namespace {
-
-// The body of a command with a failure path: a failure ends it silently there.
-template <class Body> void orEndSilently(Body body) {
-    try {
-        body();
-    } catch (const RuntimeFailure&) {
-    }
-}
-
-} // namespace
-
 void Zelvo::setUpFileDialog(const QString& defaultExt) {
     ui.comdlg.cancelError = true;
     ui.comdlg.defaultExt = defaultExt;
@@ -126,10 +114,7 @@ void Zelvo::mnuInsFile() {
 void Zelvo::recent_Click(int index) {
     orEndSilently([&] {
         if (!ui.star.text().isEmpty()) {
-            const int answer = services().prompts->msgBox(
-                QStringLiteral("File not saved. Would you like to save your file first?"),
-                vbYesNo | vbQuestion, document::kAssistant);
-            if (answer == vbYes) {
+            if (document::askSaveFirst(services())) {
                 mnuSave();
                 return;
             }
@@ -163,20 +148,8 @@ void Zelvo::pushRecentSource() {
 }
 
 void Zelvo::mnuExit() {
-    const int answer = services().prompts->msgBox(QStringLiteral("Are you sure you want to exit?"),
-                                                  vbYesNo | vbQuestion | vbDefaultButton2,
-                                                  QStringLiteral("Confirm Exit: Zelvo Tessara"));
-    if (answer == vbNo) {
-        ui.areaView->setFocus();
-        return;
-    }
-    orEndSilently([&] {
-        if (!QFile::remove(document::tempCrashFile()))
-            throw RuntimeFailure::fileNotFound();
-        services().settings->saveSetting(document::kApp, QStringLiteral("Crash"),
-                                         QStringLiteral("crash"), QStringLiteral("0"));
-    });
-    Guard::endProcess();
+    document::exitProgram(
+        services(), [this] { ui.areaView->setFocus(); }, document::tempCrashFile());
 }
 
 } // namespace zt
