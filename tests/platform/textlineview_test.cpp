@@ -1,0 +1,92 @@
+#include "platform/guard.h"
+#include "platform/textlineview.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+using namespace zt;
+
+namespace {
+
+// A one-line box on screen whose Change handler counts and records what the editor
+// shows at that moment.
+class TextLineViewTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        Guard::setEnding([this](const RuntimeFailure& f) { failures.push_back(f.number()); });
+        box.addChangeHandler([this] {
+            ++changes;
+            shownAtChange = view.text();
+            if (refuseX && box.text().contains(QLatin1Char('x')))
+                box.setText(QString());
+        });
+        view.show();
+        view.setFocus();
+    }
+    void TearDown() override { Guard::restoreDefaults(); }
+
+    TextControl box;
+    TextLineView view{box};
+    int changes = 0;
+    QString shownAtChange;
+    bool refuseX = false;
+    std::vector<int> failures;
+};
+
+} // namespace
+
+TEST_F(TextLineViewTest, EachKeyIsOneEditOfTheControl) {
+    QTest::keyClicks(&view, "abc");
+    EXPECT_EQ(box.text(), "abc");
+    EXPECT_EQ(changes, 3);
+    EXPECT_EQ(shownAtChange, "abc");
+    EXPECT_EQ(box.selStart(), 3);
+
+    QTest::keyClick(&view, Qt::Key_Left);
+    QTest::keyClick(&view, Qt::Key_Backspace);
+    EXPECT_EQ(box.text(), "ac");
+    EXPECT_EQ(box.selStart(), 1);
+    EXPECT_EQ(changes, 4);
+
+    // Typing over a selection replaces it in one edit.
+    QTest::keyClick(&view, Qt::Key_Home);
+    QTest::keyClick(&view, Qt::Key_End, Qt::ShiftModifier);
+    EXPECT_EQ(box.selStart(), 0);
+    EXPECT_EQ(box.selLength(), 2);
+    QTest::keyClick(&view, Qt::Key_Z);
+    EXPECT_EQ(box.text(), "z");
+    EXPECT_EQ(changes, 5);
+    EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(TextLineViewTest, ShowsWhatTheProgramWritesAndWhereItPutsTheCaret) {
+    box.setText("12\r\n34");
+    EXPECT_EQ(view.text(), "12\r\n34");
+    EXPECT_EQ(view.cursorPosition(), 0);
+    box.setSelStart(2);
+    box.setSelLength(2);
+    EXPECT_EQ(view.selectionStart(), 2);
+    EXPECT_EQ(view.selectedText().size(), 2);
+    box.setSelText("");
+    EXPECT_EQ(view.text(), "1234");
+    EXPECT_EQ(view.cursorPosition(), 2);
+}
+
+TEST_F(TextLineViewTest, AChangeHandlerThatRewritesTheTextWinsOverTheKey) {
+    refuseX = true;
+    QTest::keyClicks(&view, "ax");
+    EXPECT_EQ(box.text(), "");
+    EXPECT_EQ(view.text(), "");
+    QTest::keyClicks(&view, "b");
+    EXPECT_EQ(box.text(), "b");
+    EXPECT_EQ(view.text(), "b");
+}
+
+TEST_F(TextLineViewTest, BackColorIsTheBoxesBackground) {
+    view.setBackColor(0x0000FF);
+    EXPECT_EQ(view.backColor(), 0x0000FFu);
+    EXPECT_EQ(view.palette().color(QPalette::Base), QColor(255, 0, 0));
+}
