@@ -1,0 +1,9 @@
+#include "jsconsole.h"
+
+namespace zt {
+
+JSConsole::JSConsole(FormRegistry& forms) : Form(forms) {}
+
+JSConsole::~JSConsole() = default;
+
+} // namespace zt

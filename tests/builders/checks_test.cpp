@@ -1,0 +1,87 @@
+#include "builders/checks.h"
+
+#include "support/scripted.h"
+
+#include "platform/textcontrol.h"
+
+#include <gtest/gtest.h>
+
+using namespace zt;
+using namespace zt::test;
+
+namespace {
+
+// A field that checks itself on every change, as a dialog wires it.
+struct CheckedField {
+    explicit CheckedField(std::function<void(CheckedField&)> check) {
+        field.addChangeHandler([this, check] {
+            ++changes;
+            check(*this);
+        });
+    }
+    TextControl field;
+    TextControl checkee;
+    ScriptedPrompts prompts;
+    int changes = 0;
+};
+
+} // namespace
+
+TEST(CheckNumeric, KeepsNumbersAndEmptiesTheRest) {
+    const struct {
+        QString typed;
+        bool refused;
+    } cases[] = {
+        {"", false},   {"12", false}, {"1.5", false}, {"-3", false}, {"1e3", false},
+        {"+2", false}, {"12a", true}, {"abc", true},  {"-", true},   {"12px", true},
+    };
+    for (const auto& c : cases) {
+        CheckedField f([](CheckedField& self) { checkNumeric(self.field, self.prompts); });
+        f.field.setText(c.typed);
+        EXPECT_EQ(f.field.text(), c.refused ? "" : c.typed) << c.typed.toStdString();
+        ASSERT_EQ(f.prompts.asked.size(), c.refused ? 1u : 0u) << c.typed.toStdString();
+        if (c.refused) {
+            EXPECT_EQ(f.prompts.asked[0].text, "Please enter only valid numerical data");
+            EXPECT_EQ(f.prompts.asked[0].title, "Assistant: Zelvo");
+            EXPECT_EQ(f.prompts.asked[0].style, vbExclamation);
+            EXPECT_EQ(f.changes, 2) << "the emptying is a change of its own";
+        } else {
+            EXPECT_EQ(f.changes, 1) << "writing back the same text is no change";
+        }
+    }
+}
+
+TEST(CheckNumeric, AnAcceptedTextKeepsTheCaret) {
+    CheckedField f([](CheckedField& self) { checkNumeric(self.field, self.prompts); });
+    f.field.setText("12");
+    f.field.setSelStart(2);
+    f.field.setSelText("3");
+    EXPECT_EQ(f.field.text(), "123");
+    EXPECT_EQ(f.field.selStart(), 3);
+}
+
+TEST(CheckDigits, TakesOutOneBadCharacterPerBox) {
+    const struct {
+        QString typed;
+        QString fallback;
+        QString result;
+        int boxes;
+    } cases[] = {
+        {"123", "2", "123", 0}, {"1e3", "2", "13", 1}, // passes the numeric check, not this one
+        {"-1.5", "2", "15", 2}, {"a-b", "", "", 3},    {"x", "2", "2", 1}, {"x", "", "", 1},
+        {"9 9", "", "99", 1},   {"", "2", "", 0}, // an emptied field is left alone
+    };
+    for (const auto& c : cases) {
+        CheckedField f([&c](CheckedField& self) {
+            checkDigits(self.field, self.checkee, self.prompts, c.fallback);
+        });
+        f.field.setText(c.typed);
+        EXPECT_EQ(f.field.text(), c.result) << c.typed.toStdString();
+        ASSERT_EQ(int(f.prompts.asked.size()), c.boxes) << c.typed.toStdString();
+        for (const auto& box : f.prompts.asked) {
+            EXPECT_EQ(box.text, "Invalid Value");
+            EXPECT_EQ(box.title, "");
+            EXPECT_EQ(box.style, vbOKOnly);
+        }
+    }
+}

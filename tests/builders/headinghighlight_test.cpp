@@ -1,0 +1,166 @@
+#include "builderkit.h"
+
+#include "builders/heading.h"
+#include "builders/highlight.h"
+#include "builders/rule.h"
+#include "help/frmhelp.h"
+
+#include "platform/texteditview.h"
+#include "platform/textlineview.h"
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <gtest/gtest.h>
+
+using namespace zt;
+using namespace zt::test;
+
+TEST(Heading, FromTheSourceViewAroundTheSelection) {
+    BuilderViews v;
+    v.area().setText("<P>Intro</P>");
+    v.selectInArea("Intro");
+    v.run([&] { v.zelvo.mnuHeading(); });
+
+    heading& dialog = v.program.forms->get<heading>();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.caption(), "Insert Heading : Zelvo");
+    EXPECT_EQ(dialog.ui.compOrEdit.text(), "edit");
+    EXPECT_EQ(dialog.ui.txtHeading.text(), "Intro");
+    EXPECT_EQ(dialog.ui.txtHeadingView->text(), "Intro");
+    EXPECT_TRUE(dialog.ui.radLevel1->isChecked());
+    EXPECT_EQ(dialog.ui.listAlign->currentItem()->text(), "Left");
+
+    dialog.ui.radLevel3->setChecked(true);
+    dialog.ui.listAlign->setCurrentRow(1);
+    v.run([&] { dialog.ui.OKButton->click(); });
+    EXPECT_EQ(v.area().text(), R"(<P><H3 align="Center">Intro</H3></P>)");
+    EXPECT_FALSE(v.loaded<heading>());
+}
+
+TEST(Heading, FromTheVisualViewPrefillsNothing) {
+    BuilderViews v;
+    v.area().setText("selected");
+    v.selectInArea("selected");
+    v.page().setSelection(0, 0);
+    v.run([&] { v.tessara.mnuHeading(); });
+    heading& dialog = v.program.forms->get<heading>();
+    EXPECT_EQ(dialog.ui.compOrEdit.text(), "comp");
+    EXPECT_EQ(dialog.ui.txtHeading.text(), "");
+    v.run([&] { dialog.ui.OKButton->click(); });
+    v.tick();
+    EXPECT_EQ(v.page().bodyContent(), R"(<H1 align="Left"></H1>one two three)");
+}
+
+TEST(Highlight, FromTheSourceViewUpperCasesTheColour) {
+    BuilderViews v;
+    v.area().setText("a word here");
+    v.selectInArea("word");
+    v.run([&] { v.zelvo.mnuHighlight(); });
+
+    highlight& dialog = v.program.forms->get<highlight>();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.caption(), "Highlight Text : Zelvo");
+    EXPECT_EQ(dialog.ui.compOrEdit.text(), "edit");
+    EXPECT_EQ(dialog.ui.txthighlight.text(), "word");
+    dialog.ui.txtColour.setText("#ff0000");
+    v.run([&] { dialog.ui.OKButton->click(); });
+    EXPECT_EQ(v.area().text(), R"(a <span style="background-color: #FF0000">word</span>  here)");
+    EXPECT_FALSE(v.loaded<highlight>());
+}
+
+TEST(Highlight, ColourButtonFillsTheField) {
+    BuilderViews v;
+    v.run([&] { v.zelvo.mnuHighlight(); });
+    highlight& dialog = v.program.forms->get<highlight>();
+    v.program.pickers.colors = {0xFFFF00};
+    v.run([&] { dialog.ui.openColor->click(); });
+    EXPECT_EQ(dialog.ui.txtColour.text(), "#00FFFF");
+    EXPECT_EQ(dialog.ui.txtColourView->backColor(), 0xFFFF00u);
+}
+
+TEST(Highlight, TheVisualViewHighlightsThePlainTextOfTheSelection) {
+    BuilderViews v;
+    v.page().setDocumentHTML("<HTML><BODY>Hello <b>bold</b> world</BODY></HTML>");
+    v.page().selectText("<b>bold</b>");
+    v.program.pickers.colors = {255};
+    v.run([&] { v.tessara.mnuHighlight(); });
+
+    ASSERT_TRUE(v.loaded<highlight>());
+    EXPECT_EQ(v.program.forms->get<highlight>().ui.compOrEdit.text(), "comp");
+    EXPECT_FALSE(v.program.forms->get<highlight>().isVisible());
+    v.tick();
+    EXPECT_EQ(v.page().bodyContent(),
+              R"(Hello <span style="background-color:#FF0000">bold</span> &nbsp; world)");
+    EXPECT_TRUE(v.program.failures.empty());
+}
+
+TEST(Highlight, TheVisualViewDoesNothingWithoutAColourOrASelection) {
+    const struct {
+        const char* what;
+        std::deque<std::optional<quint32>> picks;
+        bool cancelError;
+        const char* selected;
+        bool dialogTold;
+    } cases[] = {
+        {"black", {0}, false, "two", false},
+        {"cancel on first use", {std::nullopt}, false, "two", false},
+        {"cancel failing after an earlier command set CancelError",
+         {std::nullopt},
+         true,
+         "two",
+         false},
+        {"nothing selected to copy", {255}, false, nullptr, true},
+    };
+    for (const auto& c : cases) {
+        BuilderViews v;
+        v.tessara.ui.ComDlg.cancelError = c.cancelError;
+        if (c.selected)
+            v.page().selectText(c.selected);
+        v.program.pickers.colors = c.picks;
+        v.run([&] { v.tessara.mnuHighlight(); });
+        EXPECT_FALSE(v.tessara.ui.Timer1.enabled()) << c.what;
+        EXPECT_EQ(v.page().bodyContent(), "one two three") << c.what;
+        EXPECT_EQ(v.loaded<highlight>(), c.dialogTold) << c.what;
+        EXPECT_TRUE(v.program.failures.empty()) << c.what;
+        EXPECT_TRUE(v.program.prompts.asked.empty()) << c.what;
+    }
+}
+
+TEST(Highlight, TheVisualViewsPickerKeepsItsColourForALaterCancel) {
+    BuilderViews v;
+    v.program.pickers.colors = {15, std::nullopt};
+    v.page().selectText("one");
+    v.run([&] { v.tessara.mnuHighlight(); });
+    v.tick();
+    v.page().selectText("three");
+    v.run([&] { v.tessara.mnuHighlight(); });
+    v.tick();
+    EXPECT_EQ(v.page().bodyContent(),
+              R"(<span style="background-color:#0F0000">one</span> &nbsp; two )"
+              R"(<span style="background-color:#0F0000">three</span> &nbsp;)");
+}
+
+TEST(ElementDialogs, HelpButtonsShowTheirPages) {
+    const struct {
+        std::function<void(Views&)> open;
+        std::function<QPushButton*(FormRegistry&)> help;
+        QString firstLine;
+    } cases[] = {
+        {[](Views& v) { v.zelvo.mnuHR(); },
+         [](FormRegistry& f) { return f.get<rule>().ui.btnHelp; }, "INSERT HORIZONTAL RULE"},
+        {[](Views& v) { v.tessara.mnuHeading(); },
+         [](FormRegistry& f) { return f.get<heading>().ui.btnHelp; }, "INSERT HEADING"},
+        {[](Views& v) { v.zelvo.mnuHighlight(); },
+         [](FormRegistry& f) { return f.get<highlight>().ui.btnHelp; }, "HIGHLIGHT TEXT"},
+    };
+    for (const auto& c : cases) {
+        BuilderViews v;
+        v.run([&] { c.open(v); });
+        v.run([&] { c.help(*v.program.forms)->click(); });
+        frmHelp& help = v.program.forms->get<frmHelp>();
+        EXPECT_TRUE(help.isVisible()) << c.firstLine.toStdString();
+        EXPECT_TRUE(help.ui.txtHelp.text().startsWith(c.firstLine)) << c.firstLine.toStdString();
+    }
+}
