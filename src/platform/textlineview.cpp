@@ -39,7 +39,10 @@ TextLineView::~TextLineView() {
 void TextLineView::setBackColor(quint32 bgr) {
     m_backColor = bgr;
     QPalette colours = palette();
-    colours.setColor(QPalette::Base, fromBgr(bgr));
+    const QColor back = fromBgr(bgr);
+    colours.setColor(QPalette::Base, back);
+    // The text stays readable on whatever colour was picked.
+    colours.setColor(QPalette::Text, back.lightness() < 128 ? Qt::white : Qt::black);
     setPalette(colours);
 }
 
