@@ -131,11 +131,7 @@ void MemoryEngine::execCommand(DhtmlCommand id) {
         return;
     case DECMD_PASTE: {
         requireEditable();
-        QString html = m_clipboard.html();
-        if (html.isEmpty())
-            html = pagetext::htmlOfPlainText(m_clipboard.text());
-        if (html.isEmpty())
-            throw RuntimeFailure::invalidProcedureCall();
+        const QString html = pagetext::htmlToPaste(m_clipboard);
         replaceSelection(html);
         return;
     }

@@ -1,5 +1,9 @@
 #include "pagetext.h"
 
+#include "runtimefailure.h"
+
+#include "desktop.h"
+
 #include <QRegularExpression>
 
 namespace zt::pagetext {
@@ -44,6 +48,15 @@ QString htmlOfPlainText(QStringView text) {
     QString html = text.toString().toHtmlEscaped();
     html.replace(QLatin1String("&quot;"), QLatin1String("\""));
     return withCrLf(html).replace(QLatin1String("\r\n"), QLatin1String("<br>"));
+}
+
+QString htmlToPaste(const Clipboard& clipboard) {
+    QString html = clipboard.html();
+    if (html.isEmpty())
+        html = htmlOfPlainText(clipboard.text());
+    if (html.isEmpty())
+        throw RuntimeFailure::invalidProcedureCall();
+    return html;
 }
 
 } // namespace zt::pagetext

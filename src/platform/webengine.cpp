@@ -134,11 +134,7 @@ void WebPageEngine::execCommand(DhtmlCommand id) {
         return;
     case DECMD_PASTE: {
         requireEditable();
-        QString html = m_clipboard.html();
-        if (html.isEmpty())
-            html = pagetext::htmlOfPlainText(m_clipboard.text());
-        if (html.isEmpty())
-            throw RuntimeFailure::invalidProcedureCall();
+        const QString html = pagetext::htmlToPaste(m_clipboard);
         edit(QStringLiteral("paste"), {{"html", html}});
         return;
     }
