@@ -5,6 +5,7 @@
 #include "platform/pendinganswer.h"
 #include "platform/webengine.h"
 
+#include <QFile>
 #include <QWebEnginePage>
 #include <QWebEngineScript>
 #include <QWebEngineView>
@@ -84,6 +85,12 @@ void failAtGuard() {
     Guard::setEnding([](const RuntimeFailure& failure) {
         ADD_FAILURE() << "failure reached the guard: " << failure.what();
     });
+}
+
+void writeBytes(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    file.write(bytes);
 }
 
 QString pageWithMarker(const QString& body) {

@@ -48,6 +48,9 @@ QVariant evaluate(WebPageEngine& engine, const QString& script);
 // ending the process as in the program.
 void failAtGuard();
 
+// Writes a file for an engine to load, failing the running test when it cannot.
+void writeBytes(const QString& path, const QByteArray& bytes);
+
 // The page that the engines write for a body, with the marker in its head.
 QString pageWithMarker(const QString& body);
 

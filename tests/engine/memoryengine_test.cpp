@@ -7,7 +7,6 @@
 #include "platform/memoryengine.h"
 #include "platform/runtimefailure.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -75,10 +74,7 @@ TEST(MemoryEngine, LoadURLKeepsTheAddressAndReadsLocalFiles) {
     MemoryEngine engine(clipboard);
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("local.html"));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("<html><body><p>local</p></body></html>");
-    file.close();
+    writeBytes(path, "<html><body><p>local</p></body></html>");
 
     const QString local = QUrl::fromLocalFile(path).toString();
     engine.loadURL(local);

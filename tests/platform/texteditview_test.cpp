@@ -44,11 +44,11 @@ protected:
         changes = 0;
     }
 
-    void selectInEditor(int anchor, int position) {
+    // The middle of the caret's place at a document position, for the mouse and drops.
+    QPoint pointAt(int position) {
         QTextCursor cursor = view.textCursor();
-        cursor.setPosition(anchor);
-        cursor.setPosition(position, QTextCursor::KeepAnchor);
-        view.setTextCursor(cursor);
+        cursor.setPosition(position);
+        return view.cursorRect(cursor).center();
     }
 
     TextControl box;
@@ -58,144 +58,81 @@ protected:
     std::vector<int> failures;
 };
 
-struct Key {
-    Qt::Key key;
-    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-};
-
 } // namespace
 
-TEST_F(TextEditViewTest, EachKeystrokeIsOneChange) {
-    QTest::keyClicks(&view, QStringLiteral("ab"));
-    EXPECT_EQ(box.text(), q("ab"));
-    EXPECT_EQ(changes, 2);
-    EXPECT_EQ(shownAtChange, q("ab")) << "the editor is up to date when Change runs";
-
-    QTest::keyClick(&view, Qt::Key_Return);
-    EXPECT_EQ(box.text(), q("ab\r\n"));
-    EXPECT_EQ(box.selStart(), 4);
-    EXPECT_EQ(view.toPlainText(), q("ab\n"));
-    EXPECT_EQ(changes, 3);
-
-    QTest::keyClick(&view, Qt::Key_Backspace);
-    EXPECT_EQ(box.text(), q("ab"));
-    EXPECT_EQ(box.selStart(), 2);
-    EXPECT_EQ(changes, 4) << "the whole CR LF goes in one change";
-}
-
-TEST_F(TextEditViewTest, EditingKeysMakeOneReplacement) {
+TEST_F(TextEditViewTest, EachEditingKeyIsOneReplacement) {
     struct Case {
         const char* text;
-        int selStart;
-        int selLength;
-        std::vector<Key> keys;
-        const char* want;
-        int wantCaret;
-        int wantChanges;
+        int selStart, selLength;
+        const char *keys, *want;
+        int wantCaret, wantChanges;
     };
+    QGuiApplication::clipboard()->setText(QStringLiteral("x\ny"));
     const Case cases[] = {
-        {"ab\r\ncd", 4, 0, {{Qt::Key_Backspace}}, "abcd", 2, 1},
-        {"ab\r\ncd", 2, 0, {{Qt::Key_Delete}}, "abcd", 2, 1},
-        {"a\rb", 2, 0, {{Qt::Key_Backspace}}, "ab", 1, 1},
-        {"a\nb", 1, 0, {{Qt::Key_Delete}}, "ab", 1, 1},
-        {"ab\r\ncd",
-         1,
-         0,
-         {{Qt::Key_Right, Qt::ShiftModifier}, {Qt::Key_Right, Qt::ShiftModifier}, {Qt::Key_X}},
-         "axcd",
-         2,
-         1},
-        {"ab\r\ncd", 1, 4, {{Qt::Key_Return}}, "a\r\nd", 3, 1},
-        {"abc", 1, 1, {{Qt::Key_Backspace}}, "ac", 1, 1},
-        {"abc", 3, 0, {{Qt::Key_Delete}}, "abc", 3, 0},
-        {"abc", 0, 0, {{Qt::Key_Backspace}}, "abc", 0, 0},
-        {"abc", 1, 0, {{Qt::Key_Tab}}, "a\tbc", 2, 1},
-        {"abc", 1, 0, {{Qt::Key_Z, Qt::ControlModifier}}, "abc", 1, 0},
-        {"one two", 7, 0, {{Qt::Key_Backspace, Qt::ControlModifier}}, "one ", 4, 1},
-        {"x\r\ny", 5, 0, {{Qt::Key_Up}, {Qt::Key_Q}}, "xq\r\ny", 2, 1},
+        {"", 0, 0, "A, B", "ab", 2, 2},
+        {"ab", 2, 0, "Return", "ab\r\n", 4, 1},
+        {"ab\r\ncd", 4, 0, "Backspace", "abcd", 2, 1}, // the whole CR LF in one change
+        {"ab\r\ncd", 2, 0, "Del", "abcd", 2, 1},
+        {"a\rb", 2, 0, "Backspace", "ab", 1, 1},
+        {"a\nb", 1, 0, "Del", "ab", 1, 1},
+        {"ab\r\ncd", 1, 0, "Shift+Right, Shift+Right, X", "axcd", 2, 1},
+        {"ab\r\ncd", 1, 4, "Return", "a\r\nd", 3, 1},
+        {"abc", 1, 1, "Backspace", "ac", 1, 1},
+        {"abc", 3, 0, "Del", "abc", 3, 0},
+        {"abc", 0, 0, "Backspace", "abc", 0, 0},
+        {"abc", 1, 0, "Tab", "a\tbc", 2, 1},
+        {"abc", 1, 0, "Ctrl+Z", "abc", 1, 0},
+        {"one two", 7, 0, "Ctrl+Backspace", "one ", 4, 1},
+        {"x\r\ny", 5, 0, "Up, Q", "xq\r\ny", 2, 1},
+        {"ab", 1, 0, "Ctrl+V", "ax\r\nyb", 5, 1},
+        {"a1\r\n2b", 1, 4, "Ctrl+X", "ab", 1, 1}, // last: it replaces the clipboard
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.text);
+        SCOPED_TRACE(std::string(c.text) + " " + c.keys);
         start(c.text, c.selStart, c.selLength);
-        for (const Key& key : c.keys)
-            QTest::keyClick(&view, key.key, key.modifiers);
+        QTest::keySequence(&view, QKeySequence(QString::fromLatin1(c.keys)));
         EXPECT_EQ(box.text(), q(c.want));
         EXPECT_EQ(box.selStart(), c.wantCaret);
         EXPECT_EQ(box.selLength(), 0);
         EXPECT_EQ(changes, c.wantChanges);
         EXPECT_EQ(view.toPlainText(), linebreaks::toDocument(q(c.want)));
+        if (c.wantChanges > 0) {
+            EXPECT_EQ(shownAtChange, view.toPlainText()) << "the editor is up to date at Change";
+        }
     }
-}
-
-TEST_F(TextEditViewTest, PasteAndCutAreOneChangeEach) {
-    start("ab", 1);
-    QGuiApplication::clipboard()->setText(QStringLiteral("x\ny"));
-    QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(box.text(), q("ax\r\nyb"));
-    EXPECT_EQ(box.selStart(), 5);
-    EXPECT_EQ(changes, 1);
-
-    selectInEditor(1, 4); // "x", the break and "y"
-    QTest::keyClick(&view, Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(box.text(), q("ab"));
-    EXPECT_EQ(changes, 2);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), q("x\ny"));
-}
-
-TEST_F(TextEditViewTest, DroppedTextIsOneChange) {
-    start("ab\r\ncd", 0);
-    QMimeData data;
-    data.setText(QStringLiteral("1\n2"));
-    QTextCursor target = view.textCursor();
-    target.setPosition(4); // between c and d
-    const QPoint point = view.cursorRect(target).center();
-    QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &enter);
-    QDropEvent drop(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view.viewport(), &drop);
-    EXPECT_EQ(box.text(), q("ab\r\nc1\r\n2d"));
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), q("1\n2"));
 }
 
 TEST_F(TextEditViewTest, EditorSelectionIsMirroredInModelPositions) {
     start("ab\r\ncd\r\nef", 0);
     struct Case {
-        int anchor;
-        int position;
-        int wantStart;
-        int wantLength;
+        int anchor, position, wantStart, wantLength;
     };
     // The editor shows "ab\ncd\nef".
     const Case cases[] = {{4, 7, 5, 4}, {7, 4, 5, 4}, {3, 3, 4, 0}, {0, 8, 0, 10}, {2, 3, 2, 2}};
     for (const Case& c : cases) {
-        selectInEditor(c.anchor, c.position);
+        QTextCursor cursor = view.textCursor();
+        cursor.setPosition(c.anchor);
+        cursor.setPosition(c.position, QTextCursor::KeepAnchor);
+        view.setTextCursor(cursor);
         EXPECT_EQ(box.selStart(), c.wantStart) << c.anchor << "-" << c.position;
         EXPECT_EQ(box.selLength(), c.wantLength) << c.anchor << "-" << c.position;
         EXPECT_EQ(view.textCursor().anchor(), c.anchor) << "the editor keeps its direction";
     }
-    QTest::keyClick(&view, Qt::Key_Home, Qt::ControlModifier);
-    QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keySequence(&view, QKeySequence(QStringLiteral("Ctrl+Home, Shift+Down")));
     EXPECT_EQ(box.selStart(), 0);
+    EXPECT_EQ(box.selLength(), 4);
+    // By mouse from behind a to behind c: b, CR, LF and c.
+    box.setSelStart(0);
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, pointAt(1));
+    QTest::mouseMove(view.viewport(), pointAt(4));
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, pointAt(4));
+    EXPECT_EQ(box.selStart(), 1);
     EXPECT_EQ(box.selLength(), 4);
     EXPECT_EQ(changes, 0);
 }
 
-TEST_F(TextEditViewTest, MouseSelectionIsMirrored) {
-    start("ab\r\ncd", 0);
-    QTextCursor at = view.textCursor();
-    at.setPosition(1);
-    const QPoint from = view.cursorRect(at).center();
-    at.setPosition(4);
-    const QPoint to = view.cursorRect(at).center();
-    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, from);
-    QTest::mouseMove(view.viewport(), to);
-    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, to);
-    EXPECT_EQ(box.selStart(), 1);
-    EXPECT_EQ(box.selLength(), 4) << "b, CR, LF and c";
-    EXPECT_EQ(changes, 0);
-}
-
-TEST_F(TextEditViewTest, ProgramAssignmentsShowInTheEditor) {
+TEST_F(TextEditViewTest, ProgramAssignmentsShowInTheEditorEvenWhenReadOnly) {
     box.setText(q("ab\r\ncd"));
     EXPECT_EQ(view.toPlainText(), q("ab\ncd"));
     EXPECT_EQ(view.textCursor().position(), 0);
@@ -215,9 +152,19 @@ TEST_F(TextEditViewTest, ProgramAssignmentsShowInTheEditor) {
     box.setSelStart(3);
     EXPECT_EQ(view.textCursor().position(), 3);
     EXPECT_EQ(box.selStart(), 3);
+
+    // A read-only editor refuses the user's edits but still shows the program's.
+    start("abc", 1);
+    view.setReadOnly(true);
+    QGuiApplication::clipboard()->setText(QStringLiteral("z"));
+    QTest::keySequence(&view, QKeySequence(QStringLiteral("X, Backspace, Return, Ctrl+V")));
+    EXPECT_EQ(box.text(), q("abc"));
+    EXPECT_EQ(changes, 0);
+    box.setText(q("shown"));
+    EXPECT_EQ(view.toPlainText(), q("shown"));
 }
 
-TEST_F(TextEditViewTest, HandlerThatRewritesTheTextWinsOverTheKeystroke) {
+TEST_F(TextEditViewTest, HandlersThatRewriteWinAndFailuresReachTheGuardAfterTheEdit) {
     box.addChangeHandler([this] {
         const QString upper = box.text().toUpper();
         if (upper != box.text()) {
@@ -230,28 +177,12 @@ TEST_F(TextEditViewTest, HandlerThatRewritesTheTextWinsOverTheKeystroke) {
     EXPECT_EQ(box.text(), q("AB"));
     EXPECT_EQ(view.toPlainText(), q("AB"));
     EXPECT_EQ(view.textCursor().position(), 2);
-}
 
-TEST_F(TextEditViewTest, FailingHandlerReachesTheGuardAndTheEditKeeps) {
     box.addChangeHandler([] { throw RuntimeFailure::overflow(); });
-    QTest::keyClick(&view, Qt::Key_A);
+    QTest::keyClick(&view, Qt::Key_C);
     EXPECT_EQ(failures, std::vector<int>{RuntimeFailure::Overflow});
-    EXPECT_EQ(box.text(), q("a"));
-    EXPECT_EQ(view.toPlainText(), q("a"));
-}
-
-TEST_F(TextEditViewTest, ReadOnlyEditorRefusesEdits) {
-    start("abc", 1);
-    view.setReadOnly(true);
-    QTest::keyClicks(&view, QStringLiteral("xy"));
-    QTest::keyClick(&view, Qt::Key_Backspace);
-    QTest::keyClick(&view, Qt::Key_Return);
-    QGuiApplication::clipboard()->setText(QStringLiteral("z"));
-    QTest::keyClick(&view, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(box.text(), q("abc"));
-    EXPECT_EQ(changes, 0);
-    box.setText(q("shown"));
-    EXPECT_EQ(view.toPlainText(), q("shown"));
+    EXPECT_EQ(box.text(), q("ABC"));
+    EXPECT_EQ(view.toPlainText(), q("ABC"));
 }
 
 // A keystroke in a large text edits the document where it happened instead of loading
@@ -274,7 +205,17 @@ TEST_F(TextEditViewTest, KeystrokeInLargeTextIsAppliedInPlace) {
     EXPECT_EQ(view.textCursor().position(), far.document()->findBlockByNumber(10).position() + 1);
 }
 
-TEST_F(TextEditViewTest, ComposedTextIsOneChange) {
+TEST_F(TextEditViewTest, DroppedAndComposedTextAreOneChangeEach) {
+    start("ab\r\ncd", 0);
+    QMimeData data;
+    data.setText(QStringLiteral("1\n2"));
+    QDragEnterEvent enter(pointAt(4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view.viewport(), &enter);
+    QDropEvent drop(pointAt(4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view.viewport(), &drop);
+    EXPECT_EQ(box.text(), q("ab\r\nc1\r\n2d"));
+    EXPECT_EQ(changes, 1);
+
     start("ab", 1);
     QInputMethodEvent composing(QStringLiteral("e"), {});
     QApplication::sendEvent(&view, &composing);
