@@ -64,20 +64,14 @@ TEST(Highlight, FromTheSourceViewUpperCasesTheColour) {
     EXPECT_EQ(dialog.caption(), "Highlight Text : Zelvo");
     EXPECT_EQ(dialog.ui.compOrEdit.text(), "edit");
     EXPECT_EQ(dialog.ui.txthighlight.text(), "word");
-    dialog.ui.txtColour.setText("#ff0000");
-    v.run([&] { dialog.ui.OKButton->click(); });
-    EXPECT_EQ(v.area().text(), R"(a <span style="background-color: #FF0000">word</span>  here)");
-    EXPECT_FALSE(v.loaded<highlight>());
-}
-
-TEST(Highlight, ColourButtonFillsTheField) {
-    BuilderViews v;
-    v.run([&] { v.zelvo.mnuHighlight(); });
-    highlight& dialog = v.program.forms->get<highlight>();
     v.program.pickers.colors = {0xFFFF00};
     v.run([&] { dialog.ui.openColor->click(); });
     EXPECT_EQ(dialog.ui.txtColour.text(), "#00FFFF");
     EXPECT_EQ(dialog.ui.txtColourView->backColor(), 0xFFFF00u);
+    dialog.ui.txtColour.setText("#ff0000");
+    v.run([&] { dialog.ui.OKButton->click(); });
+    EXPECT_EQ(v.area().text(), R"(a <span style="background-color: #FF0000">word</span>  here)");
+    EXPECT_FALSE(v.loaded<highlight>());
 }
 
 TEST(Highlight, TheVisualViewHighlightsThePlainTextOfTheSelection) {

@@ -65,28 +65,6 @@ TEST(Rule, FromTheVisualViewGoesInAtTheCaretOnTheTick) {
     EXPECT_EQ(v.area().text(), "");
 }
 
-TEST(Rule, EachOpeningAfterAnAcceptIsAFreshDialog) {
-    BuilderViews v;
-    v.run([&] { v.tessara.mnuRule(); });
-    rule* first = &v.program.forms->get<rule>();
-    first->ui.txtWidth.setText("10");
-    first->ui.chkRemember->setChecked(true);
-    v.run([&] { first->ui.OKButton->click(); });
-    v.settle();
-
-    // Opened without being told, it has no caller, and its test sends to the page.
-    // Its fragment replaces the first one, still waiting for the tick.
-    rule& fresh = v.program.forms->get<rule>();
-    EXPECT_EQ(fresh.ui.compOrEdit.text(), "");
-    EXPECT_EQ(fresh.ui.txtWidth.text(), "");
-    EXPECT_EQ(fresh.ui.cmbAlign->currentText(), "Center");
-    EXPECT_FALSE(fresh.ui.chkRemember->isChecked());
-    EXPECT_FALSE(fresh.isVisible());
-    v.run([&] { fresh.ui.OKButton->click(); });
-    v.tick();
-    EXPECT_EQ(v.page().bodyContent(), "<HR>one two three");
-}
-
 TEST(Rule, CancelAndTheKeysOfTheWindow) {
     const struct {
         const char* way;
@@ -202,7 +180,7 @@ TEST(Rule, RememberSettingsTakesTheTableDialogsBoxWhenClear) {
 
 TEST(Rule, RememberedValuesAreWrittenButNeverRestored) {
     BuilderViews v;
-    v.run([&] { v.zelvo.mnuHR(); });
+    v.run([&] { v.tessara.mnuRule(); });
     rule* dialog = &v.program.forms->get<rule>();
     dialog->ui.txtWidth.setText("75");
     dialog->ui.chkPercentage->setChecked(true);
@@ -221,8 +199,11 @@ TEST(Rule, RememberedValuesAreWrittenButNeverRestored) {
     for (const auto& [key, value] : keys)
         EXPECT_EQ(v.setting("HRule", key), value) << key;
 
-    v.run([&] { v.zelvo.mnuHR(); });
+    // Opened without being told, it has no caller, and its test sends to the page.
+    // Its fragment replaces the first one, still waiting for the tick.
     dialog = &v.program.forms->get<rule>();
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->ui.compOrEdit.text(), "");
     EXPECT_EQ(dialog->ui.txtWidth.text(), "");
     EXPECT_FALSE(dialog->ui.chkPercentage->isChecked());
     EXPECT_EQ(dialog->ui.txtSize.text(), "");
@@ -230,6 +211,9 @@ TEST(Rule, RememberedValuesAreWrittenButNeverRestored) {
     EXPECT_EQ(dialog->ui.cmbAlign->currentText(), "Center");
     EXPECT_EQ(dialog->ui.txtColour.text(), "");
     EXPECT_FALSE(dialog->ui.chkRemember->isChecked());
+    v.run([&] { dialog->ui.OKButton->click(); });
+    v.tick();
+    EXPECT_EQ(v.page().bodyContent(), "<HR>one two three");
 }
 
 TEST(Rule, ClosingAViewUnloadsTheDialogs) {

@@ -76,25 +76,19 @@ TEST(TableLoad, RestoresTheRememberedFieldsOnlyWhenRememberIsTrue) {
     }
 }
 
-TEST(TableLoad, ARestoredClearWidthBoxDisablesTheWidthFields) {
+TEST(TableLoad, ARestoredClearWidthBoxDisablesTheWidthAndANonNumberIsRefused) {
     BuilderViews v;
     v.store("Table", "Remember", "1");
     v.store("Table", "SpecWidth", "0");
+    v.store("Table", "Rows", "two");
     table& t = v.program.forms->get<table>();
+    EXPECT_EQ(t.ui.txtrow.text(), "");
+    ASSERT_EQ(v.program.prompts.asked.size(), 1u);
+    EXPECT_EQ(v.program.prompts.asked[0].text, "Please enter only valid numerical data");
     EXPECT_FALSE(t.ui.txtWidthView->isEnabled());
     EXPECT_FALSE(t.ui.radpixels->isEnabled());
     EXPECT_FALSE(t.ui.radpercentage->isEnabled());
     t.ui.chkwidth->setChecked(true);
     EXPECT_TRUE(t.ui.txtWidthView->isEnabled());
     EXPECT_TRUE(t.ui.radpixels->isEnabled());
-}
-
-TEST(TableLoad, ARestoredTextThatIsNoNumberIsRefusedByTheFieldsCheck) {
-    BuilderViews v;
-    v.store("Table", "Remember", "1");
-    v.store("Table", "Rows", "two");
-    const table& t = v.program.forms->get<table>();
-    EXPECT_EQ(t.ui.txtrow.text(), "");
-    ASSERT_EQ(v.program.prompts.asked.size(), 1u);
-    EXPECT_EQ(v.program.prompts.asked[0].text, "Please enter only valid numerical data");
 }

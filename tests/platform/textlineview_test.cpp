@@ -73,6 +73,10 @@ TEST_F(TextLineViewTest, ShowsWhatTheProgramWritesAndWhereItPutsTheCaret) {
     box.setSelText("");
     EXPECT_EQ(view.text(), "1234");
     EXPECT_EQ(view.cursorPosition(), 2);
+
+    view.setBackColor(0x0000FF);
+    EXPECT_EQ(view.backColor(), 0x0000FFu);
+    EXPECT_EQ(view.palette().color(QPalette::Base), QColor(255, 0, 0));
 }
 
 TEST_F(TextLineViewTest, AChangeHandlerThatRewritesTheTextWinsOverTheKey) {
@@ -83,10 +87,4 @@ TEST_F(TextLineViewTest, AChangeHandlerThatRewritesTheTextWinsOverTheKey) {
     QTest::keyClicks(&view, "b");
     EXPECT_EQ(box.text(), "b");
     EXPECT_EQ(view.text(), "b");
-}
-
-TEST_F(TextLineViewTest, BackColorIsTheBoxesBackground) {
-    view.setBackColor(0x0000FF);
-    EXPECT_EQ(view.backColor(), 0x0000FFu);
-    EXPECT_EQ(view.palette().color(QPalette::Base), QColor(255, 0, 0));
 }

@@ -41,9 +41,7 @@ TEST(VbStrings, SearchesAreOneBasedWithZeroForAbsent) {
     for (const auto& c : cases)
         EXPECT_EQ(InStr(c.start, c.s, c.find), c.expected) << c.s << " / " << c.find;
     EXPECT_EQ(InStr(1, "ABC", "b", Compare::Text), 2);
-}
-
-TEST(VbStrings, SearchBackwardsEndsAtStart) {
+    // Backwards, the search ends at start.
     EXPECT_EQ(InStrRev("a<b>c<b>", "<b>"), 6);
     EXPECT_EQ(InStrRev("a<b>c<b>", "<b>", 7), 2);
     EXPECT_EQ(InStrRev("a<b>c<b>", "<b>", 8), 6);

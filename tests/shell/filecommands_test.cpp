@@ -55,45 +55,40 @@ TEST(SourceFile, NewOnDirtyAnsweredYesSavesUnderANewNameAndKeepsTheText) {
     EXPECT_TRUE(v.program.failures.empty());
 }
 
+// Save As writes the old path and records the new one; untitled, it writes nothing.
 TEST(SourceFile, SaveAsWritesTheOldPathAndRecordsTheNewOne) {
-    for (const bool visual : {false, true}) {
-        Views v;
-        const QString old = v.file("old.html", "old");
-        const QString chosen = v.program.scratch("chosen.html");
-        v.tag() = old;
-        v.area().setText("<P>current</P>");
-        v.txtComp().setDocumentHTML("<P>current</P>");
-        v.program.pickers.files = {chosen};
-        v.run([&] { visual ? v.tessara.mnuSaveAs() : v.zelvo.mnuSaveAs(); });
+    for (const bool visual : {false, true})
+        for (const bool titled : {true, false}) {
+            Views v;
+            const QString old = v.file("old.html", "old");
+            const QString chosen = v.program.scratch("chosen.html");
+            if (titled)
+                v.tag() = old;
+            v.area().setText("<P>current</P>");
+            v.txtComp().setDocumentHTML("<P>current</P>");
+            const Form& view = visual ? static_cast<Form&>(v.tessara) : v.zelvo;
+            const QString captionBefore = view.caption();
+            v.program.pickers.files = {chosen};
+            v.run([&] { visual ? v.tessara.mnuSaveAs() : v.zelvo.mnuSaveAs(); });
 
-        EXPECT_FALSE(QFile::exists(chosen)) << "visual " << visual;
-        EXPECT_TRUE(readFile(old).contains("<P>current</P>")) << "visual " << visual;
-        EXPECT_TRUE(readFile(old).endsWith("\r\n"));
-        EXPECT_EQ(v.tag(), chosen);
-        const Form& view = visual ? static_cast<Form&>(v.tessara) : v.zelvo;
-        EXPECT_TRUE(view.caption().endsWith(") " + chosen)) << view.caption().toStdString();
-        // Only the source view's Save As clears the mark.
-        EXPECT_EQ(v.star(), visual ? "*" : "");
-        EXPECT_EQ(v.fileName(), "");
-    }
-}
-
-TEST(SourceFile, SaveAsOnAnUntitledDocumentWritesNothing) {
-    for (const bool visual : {false, true}) {
-        Views v;
-        v.area().setText("dirty");
-        const QString captionBefore = visual ? v.tessara.caption() : v.zelvo.caption();
-        const QString chosen = v.program.scratch("never.html");
-        v.program.pickers.files = {chosen};
-        v.run([&] { visual ? v.tessara.mnuSaveAs() : v.zelvo.mnuSaveAs(); });
-
-        EXPECT_FALSE(QFile::exists(chosen));
-        EXPECT_EQ(v.tag(), "");
-        EXPECT_EQ(v.star(), "*");
-        EXPECT_EQ(visual ? v.tessara.caption() : v.zelvo.caption(), captionBefore);
-        EXPECT_EQ(v.fileName(), "");
-        EXPECT_TRUE(v.program.failures.empty());
-    }
+            const std::string label =
+                std::string(visual ? "visual" : "source") + (titled ? ", titled" : ", untitled");
+            EXPECT_FALSE(QFile::exists(chosen)) << label;
+            EXPECT_EQ(v.fileName(), "") << label;
+            EXPECT_TRUE(v.program.failures.empty()) << label;
+            if (!titled) {
+                EXPECT_EQ(v.tag(), "") << label;
+                EXPECT_EQ(v.star(), "*") << label;
+                EXPECT_EQ(view.caption(), captionBefore) << label;
+                continue;
+            }
+            EXPECT_TRUE(readFile(old).contains("<P>current</P>")) << label;
+            EXPECT_TRUE(readFile(old).endsWith("\r\n")) << label;
+            EXPECT_EQ(v.tag(), chosen) << label;
+            EXPECT_TRUE(view.caption().endsWith(") " + chosen)) << label;
+            // Only the source view's Save As clears the mark.
+            EXPECT_EQ(v.star(), visual ? "*" : "") << label;
+        }
 }
 
 TEST(SourceFile, OpenThenSaveWritesTheOpenedPathAndGrowsByOneBreakEachCycle) {

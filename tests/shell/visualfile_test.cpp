@@ -23,14 +23,6 @@ TEST(VisualFile, OpenOnDirtyAnsweredYesSavesAndLosesThePath) {
     EXPECT_TRUE(v.program.failures.empty());
 }
 
-TEST(VisualFile, OpenCancelledEndsTheProgram) {
-    Views v;
-    v.program.pickers.files = {std::nullopt};
-    EXPECT_FALSE(v.run([&] { v.tessara.mnuOpen(); }));
-    ASSERT_EQ(v.program.failures.size(), 1u);
-    EXPECT_EQ(v.program.failures[0].number(), RuntimeFailure::Cancel);
-}
-
 TEST(VisualFile, OpenLoadsThePageAndRecordsThePath) {
     Views v;
     const QString path = v.file("page.html", "<HTML><BODY><P>opened</P></BODY></HTML>");
