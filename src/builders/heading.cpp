@@ -1,7 +1,7 @@
 #include "heading.h"
 
-#include "dialogparts.h"
 #include "headinggen.h"
+#include "platform/dialogparts.h"
 #include "protocol.h"
 
 #include "shell/modapi.h"

@@ -1,8 +1,8 @@
 #include "highlight.h"
 
 #include "colours.h"
-#include "dialogparts.h"
 #include "highlightgen.h"
+#include "platform/dialogparts.h"
 #include "protocol.h"
 
 #include "shell/modapi.h"

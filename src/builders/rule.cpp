@@ -2,7 +2,7 @@
 
 #include "checks.h"
 #include "colours.h"
-#include "dialogparts.h"
+#include "platform/dialogparts.h"
 #include "protocol.h"
 #include "rulegen.h"
 #include "table.h"

@@ -1,7 +1,7 @@
 #include "table.h"
 
 #include "checks.h"
-#include "dialogparts.h"
+#include "platform/dialogparts.h"
 
 #include "platform/formregistry.h"
 #include "platform/services.h"

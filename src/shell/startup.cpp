@@ -6,6 +6,7 @@
 #include "tessara.h"
 #include "zelvo.h"
 
+#include "platform/dialogparts.h"
 #include "platform/eventwatcher.h"
 #include "platform/formregistry.h"
 #include "platform/guard.h"
@@ -28,16 +29,6 @@
 #include <QVBoxLayout>
 
 namespace zt {
-
-namespace {
-
-QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption) {
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(QString::fromLatin1(name));
-    return button;
-}
-
-} // namespace
 
 StartUp::StartUp(FormRegistry& forms) : Form(forms) {
     auto* window = new QWidget(nullptr, Qt::Dialog);

@@ -1,9 +1,9 @@
 #include "builderkit.h"
 
 #include "builders/colours.h"
-#include "builders/dialogparts.h"
 #include "builders/protocol.h"
 #include "pagehelpers/jsconsole.h"
+#include "platform/dialogparts.h"
 
 #include "platform/commondialog.h"
 

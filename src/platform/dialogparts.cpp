@@ -1,7 +1,7 @@
 #include "dialogparts.h"
 
-#include "platform/texteditview.h"
-#include "platform/textlineview.h"
+#include "texteditview.h"
+#include "textlineview.h"
 
 #include <QCheckBox>
 #include <QComboBox>

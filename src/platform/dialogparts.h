@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/guard.h"
+#include "guard.h"
 
 #include <QAbstractButton>
 #include <QDialog>
