@@ -4,7 +4,7 @@
 #include "benchapp.h"
 
 #include "platform/desktop.h"
-#include "platform/webengine.h"
+#include "platform/engine/webengine.h"
 
 #include <benchmark/benchmark.h>
 

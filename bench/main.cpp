@@ -1,6 +1,6 @@
 #include "benchapp.h"
 
-#include "platform/webengine.h"
+#include "platform/engine/webengine.h"
 
 #include <QApplication>
 

@@ -1,10 +1,10 @@
+#include "platform/engine/webengine.h"
 #include "platform/formregistry.h"
 #include "platform/guard.h"
 #include "platform/programfolder.h"
 #include "platform/qtservices.h"
 #include "platform/services.h"
 #include "platform/settingsstore.h"
-#include "platform/webengine.h"
 #include "shell/frmsplash.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop.h"
-#include "pageengine.h"
+#include "engine/pageengine.h"
 #include "programfolder.h"
 #include "prompts.h"
 #include "settingsstore.h"

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/commondialog.h"
+#include "platform/engine/pageengine.h"
 #include "platform/form.h"
-#include "platform/pageengine.h"
 #include "platform/timer.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 #include "bridge.h"
 
+#include "platform/engine/pageengine.h"
 #include "platform/formregistry.h"
-#include "platform/pageengine.h"
 #include "platform/textcontrol.h"
 #include "platform/vbstrings.h"
 #include "shell/tessara.h"

@@ -2,7 +2,7 @@
 
 #include "shell/views.h"
 
-#include "platform/memoryengine.h"
+#include "platform/engine/memoryengine.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -1,9 +1,9 @@
 #include "enginekit.h"
 
+#include "platform/engine/memoryengine.h"
+#include "platform/engine/pendinganswer.h"
+#include "platform/engine/webengine.h"
 #include "platform/guard.h"
-#include "platform/memoryengine.h"
-#include "platform/pendinganswer.h"
-#include "platform/webengine.h"
 
 #include <QFile>
 #include <QWebEnginePage>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/pageengine.h"
+#include "platform/engine/pageengine.h"
 #include "support/scripted.h"
 
 #include <QString>

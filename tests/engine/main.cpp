@@ -1,6 +1,6 @@
 #include "enginekit.h"
 
-#include "platform/webengine.h"
+#include "platform/engine/webengine.h"
 
 #include <QApplication>
 

@@ -3,8 +3,8 @@
 
 #include "enginekit.h"
 
+#include "platform/engine/memoryengine.h"
 #include "platform/guard.h"
-#include "platform/memoryengine.h"
 #include "platform/runtimefailure.h"
 
 #include <QTemporaryDir>

@@ -4,7 +4,7 @@
 
 #include "enginekit.h"
 
-#include "platform/webengine.h"
+#include "platform/engine/webengine.h"
 
 #include <gtest/gtest.h>
 

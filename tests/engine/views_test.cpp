@@ -1,7 +1,7 @@
 // The two views of one document on the real page engine.
 #include "enginekit.h"
 
-#include "platform/webengine.h"
+#include "platform/engine/webengine.h"
 #include "shell/tessara.h"
 #include "shell/zelvo.h"
 #include "support/testprogram.h"
@@ -34,14 +34,16 @@ protected:
 } // namespace
 
 TEST_F(RealViews, PageTravelsBetweenTheViewsAndIsSavedWithTheProgramsGeneratorLine) {
-    const QString page = "<HTML><HEAD><TITLE>t</TITLE></HEAD><BODY><P>Hello&nbsp;there</P></BODY></HTML>";
+    const QString page =
+        "<HTML><HEAD><TITLE>t</TITLE></HEAD><BODY><P>Hello&nbsp;there</P></BODY></HTML>";
     zelvo().ui.area.setText(page);
     program->event([&] { zelvo().mnuTessara(); });
     EXPECT_TRUE(tessara().isVisible());
 
     program->event([&] { tessara().mnuEditor(); });
     const QString source = zelvo().ui.area.text();
-    EXPECT_TRUE(source.contains(R"(<META NAME="GENERATOR" Content="Zelvo Tessara">)")) << source.toStdString();
+    EXPECT_TRUE(source.contains(R"(<META NAME="GENERATOR" Content="Zelvo Tessara">)"))
+        << source.toStdString();
     EXPECT_FALSE(source.contains("Editing Control"));
     EXPECT_TRUE(source.contains("<P>Hello&nbsp;there</P>", Qt::CaseInsensitive));
     EXPECT_TRUE(source.contains("\r\n"));
@@ -52,7 +54,8 @@ TEST_F(RealViews, PageTravelsBetweenTheViewsAndIsSavedWithTheProgramsGeneratorLi
     program->event([&] { tessara().mnuSave(); });
     const QString written = readFile(path);
     EXPECT_EQ(written.count(R"(<META NAME="GENERATOR" Content="Zelvo Tessara">)"), 1);
-    EXPECT_EQ(written, zelvo().ui.area.text() + "\r\n") << "the rewritten source buffer is what was saved";
+    EXPECT_EQ(written, zelvo().ui.area.text() + "\r\n")
+        << "the rewritten source buffer is what was saved";
     EXPECT_TRUE(written.contains("Hello&nbsp;there"));
     EXPECT_EQ(zelvo().ui.star.text(), "");
     EXPECT_TRUE(program->failures.empty());
@@ -68,6 +71,7 @@ TEST_F(RealViews, TwoFragmentsBeforeTheTickInsertOnlyTheSecondAtTheCaret) {
     EXPECT_FALSE(html.contains("<hr"));
     EXPECT_TRUE(html.contains("page"));
     EXPECT_FALSE(tessara().ui.Timer1.enabled());
-    EXPECT_TRUE(program->clipboard.html().contains("second")) << "the fragment went by the clipboard";
+    EXPECT_TRUE(program->clipboard.html().contains("second"))
+        << "the fragment went by the clipboard";
     EXPECT_TRUE(program->failures.empty());
 }

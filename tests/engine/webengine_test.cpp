@@ -4,10 +4,10 @@
 
 #include "enginekit.h"
 
+#include "platform/engine/pendinganswer.h"
+#include "platform/engine/webengine.h"
 #include "platform/guard.h"
-#include "platform/pendinganswer.h"
 #include "platform/runtimefailure.h"
-#include "platform/webengine.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

@@ -1,6 +1,6 @@
+#include "platform/engine/pageengine.h"
 #include "platform/formregistry.h"
 #include "platform/guard.h"
-#include "platform/pageengine.h"
 #include "platform/textcontrol.h"
 #include "support/testprogram.h"
 

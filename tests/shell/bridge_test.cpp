@@ -1,6 +1,6 @@
 #include "views.h"
 
-#include "platform/memoryengine.h"
+#include "platform/engine/memoryengine.h"
 #include "visual/bridge.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "views.h"
 
 #include "help/frmhelp.h"
-#include "platform/memoryengine.h"
+#include "platform/engine/memoryengine.h"
 #include "platform/runtimefailure.h"
 #include "platform/texteditview.h"
 #include "shell/closing.h"

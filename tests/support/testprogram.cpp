@@ -1,7 +1,7 @@
 #include "testprogram.h"
 
+#include "platform/engine/memoryengine.h"
 #include "platform/guard.h"
-#include "platform/memoryengine.h"
 
 #include <QDir>
 #include <QFile>

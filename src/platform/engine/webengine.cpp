@@ -1,15 +1,15 @@
 #include "webengine.h"
 
-#include "desktop.h"
 #include "documentserver.h"
 #include "enginescripts.h"
-#include "guard.h"
 #include "pageprofile.h"
 #include "pagetext.h"
 #include "pendinganswer.h"
+#include "platform/desktop.h"
+#include "platform/guard.h"
+#include "platform/runtimefailure.h"
+#include "platform/textfiles.h"
 #include "requestpolicy.h"
-#include "runtimefailure.h"
-#include "textfiles.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

@@ -1,8 +1,8 @@
 #include "pagetext.h"
 
-#include "runtimefailure.h"
+#include "platform/runtimefailure.h"
 
-#include "desktop.h"
+#include "platform/desktop.h"
 
 #include <QRegularExpression>
 

@@ -1,6 +1,6 @@
 #include "pendinganswer.h"
 
-#include "runtimefailure.h"
+#include "platform/runtimefailure.h"
 
 #include <QEventLoop>
 #include <QTimer>

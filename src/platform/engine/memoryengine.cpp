@@ -1,10 +1,10 @@
 #include "memoryengine.h"
 
-#include "desktop.h"
-#include "guard.h"
 #include "pagetext.h"
-#include "runtimefailure.h"
-#include "textfiles.h"
+#include "platform/desktop.h"
+#include "platform/guard.h"
+#include "platform/runtimefailure.h"
+#include "platform/textfiles.h"
 
 #include <QRegularExpression>
 #include <QUrl>

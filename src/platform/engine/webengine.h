@@ -32,7 +32,7 @@ class RequestPolicy;
 // call (see PendingAnswer) and fail with 5, Invalid procedure call, when the
 // engine refuses, cannot apply a command, or does not answer in time.
 //
-// The document reads back in the one format of enginescripts/serialize.js.
+// The document reads back in the one format of scripts/serialize.js.
 class WebPageEngine : public QObject, public PageEngine {
     Q_OBJECT
 public:
