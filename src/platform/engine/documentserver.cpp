@@ -1,9 +1,6 @@
 #include "documentserver.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
-#include <QMimeDatabase>
 #include <QUrlQuery>
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
@@ -12,9 +9,11 @@ namespace zt {
 
 namespace {
 
-const QString kPageHost = QStringLiteral("page");
-const QString kBlankHost = QStringLiteral("blank");
 const QString kSerialKey = QStringLiteral("zt");
+
+QString hostOf(quint64 serial) {
+    return QStringLiteral("page%1").arg(serial);
+}
 
 } // namespace
 
@@ -31,10 +30,11 @@ void DocumentServer::registerScheme() {
     QWebEngineUrlScheme documents(scheme());
     documents.setSyntax(QWebEngineUrlScheme::Syntax::Host);
     documents.setDefaultPort(QWebEngineUrlScheme::PortUnspecified);
-    // A local scheme like file: pages elsewhere cannot reach it, and its pages may
-    // show local files. Not a secure one: a page in browse mode may then load from
-    // plain http as it would from a file.
-    documents.setFlags(QWebEngineUrlScheme::LocalScheme | QWebEngineUrlScheme::LocalAccessAllowed);
+    // Its pages may show local files (the request policy decides which). Not a
+    // secure scheme: a page in browse mode may then load from plain http as it
+    // would from a file. Not a local one either: the engine lets local pages reach
+    // across origins in ways it lets no other page.
+    documents.setFlags(QWebEngineUrlScheme::LocalAccessAllowed);
     QWebEngineUrlScheme::registerScheme(documents);
 }
 
@@ -46,14 +46,14 @@ QUrl DocumentServer::publish(const void* owner, const QString& folder, const QSt
 
     QUrl url;
     url.setScheme(QString::fromLatin1(scheme()));
+    // A host of its own makes each page an origin of its own: no page shares
+    // storage, messages or anything else with another.
+    url.setHost(hostOf(page.serial));
     const QString name = fileName.isEmpty() ? QStringLiteral("untitled.html") : fileName;
-    if (folder.isEmpty()) {
-        url.setHost(kBlankHost);
+    if (folder.isEmpty())
         url.setPath(u'/' + name);
-    } else {
-        url.setHost(kPageHost);
+    else
         url.setPath(folder.endsWith(u'/') ? folder + name : folder + u'/' + name);
-    }
     url.setQuery(kSerialKey + u'=' + QString::number(page.serial));
     return url;
 }
@@ -74,7 +74,7 @@ void DocumentServer::requestStarted(QWebEngineUrlRequestJob* job) {
         job->fail(QWebEngineUrlRequestJob::RequestDenied);
         return;
     }
-    if (const quint64 serial = serialOf(url)) {
+    if (const quint64 serial = serialOf(url); url.host() == hostOf(serial)) {
         for (const Page& page : std::as_const(m_pages)) {
             if (page.serial != serial)
                 continue;
@@ -82,14 +82,6 @@ void DocumentServer::requestStarted(QWebEngineUrlRequestJob* job) {
             buffer->setData(page.bytes);
             buffer->open(QIODevice::ReadOnly);
             job->reply("text/html", buffer);
-            return;
-        }
-    }
-    if (url.host() == kPageHost) {
-        const QString path = url.path();
-        auto* file = new QFile(path, job);
-        if (QFileInfo(path).isFile() && file->open(QIODevice::ReadOnly)) {
-            job->reply(QMimeDatabase().mimeTypeForFile(path).name().toUtf8(), file);
             return;
         }
     }

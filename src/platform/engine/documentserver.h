@@ -11,11 +11,12 @@ namespace zt {
 // Serves the pages of the page engines under a URL scheme of ours, so that a page
 // of any size loads (a data URL stops at 2 MB) and its relative links resolve.
 //
-// A page gets an address that mirrors the folder of the file it came from:
-// zt-doc://page/home/me/site/index.html?zt=7. The query names the page; any other
-// address under zt-doc://page is the local file at its path, so the images beside
-// a document load as they would from the file itself. A page with no file behind
-// it lives under zt-doc://blank, where nothing else is served.
+// A page gets an address that mirrors the folder of the file it came from, on a
+// host of its own: zt-doc://page7/home/me/site/index.html?zt=7, so that its
+// relative links name the files beside it; the query names the page. Nothing but
+// the published pages is served here: the engine's request policy sends the files
+// a page shows on to their file: addresses, whose loader keeps them from the
+// page's scripts.
 class DocumentServer : public QWebEngineUrlSchemeHandler {
 public:
     static const QByteArray& scheme();

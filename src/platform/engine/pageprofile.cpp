@@ -33,7 +33,7 @@ PageProfile::PageProfile() : m_server(std::make_unique<DocumentServer>()) {
         {QWebEngineSettings::PluginsEnabled, false},
         {QWebEngineSettings::PdfViewerEnabled, false},
         {QWebEngineSettings::LocalContentCanAccessRemoteUrls, false},
-        {QWebEngineSettings::LocalContentCanAccessFileUrls, true},
+        {QWebEngineSettings::LocalContentCanAccessFileUrls, false},
         {QWebEngineSettings::LocalStorageEnabled, false},
         {QWebEngineSettings::HyperlinkAuditingEnabled, false},
         {QWebEngineSettings::ErrorPageEnabled, false},

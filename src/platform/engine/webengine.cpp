@@ -194,7 +194,6 @@ void WebPageEngine::setBrowseMode(bool on) {
     m_browseMode = on;
     QWebEngineSettings* settings = page()->settings();
     settings->setAttribute(QWebEngineSettings::JavascriptEnabled, on);
-    settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, on);
     m_policy->setWebAllowed(on);
     if (ownPage)
         showPage(text);
@@ -365,9 +364,7 @@ void WebPageEngine::showPage(const QString& html) {
     if (m_browseMode) {
         m_browseSource = html;
         m_shellUrl.clear();
-        const QUrl url = m_profile->server().publish(this, m_folder, m_fileName, servedBytes(html));
-        m_ownSerial = DocumentServer::serialOf(url);
-        if (navigate(url))
+        if (navigate(publish(html)))
             runScript("ztTrimBodyEndOfPage", {});
         return;
     }
@@ -388,14 +385,21 @@ void WebPageEngine::showPage(const QString& html) {
     throw RuntimeFailure::invalidProcedureCall();
 }
 
+// Our scheme serves html as this surface's page, which may show the files of the
+// document's folder tree and nothing else.
+QUrl WebPageEngine::publish(const QString& html) {
+    const QUrl url = m_profile->server().publish(this, m_folder, m_fileName, servedBytes(html));
+    m_ownSerial = DocumentServer::serialOf(url);
+    m_policy->setOwnPage(m_ownSerial, m_folder);
+    return url;
+}
+
 // The shell decides the page's base address and its layout mode (by its doctype).
 bool WebPageEngine::loadShell() {
     const QString shell =
         m_shellDoctype + QStringLiteral("<html><head></head><body></body></html>");
-    const QUrl url = m_profile->server().publish(this, m_folder, m_fileName, servedBytes(shell));
-    m_ownSerial = DocumentServer::serialOf(url);
     m_shellUrl.clear();
-    if (!navigate(url))
+    if (!navigate(publish(shell)))
         return false;
     m_shellUrl = page()->url();
     return true;

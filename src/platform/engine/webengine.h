@@ -85,6 +85,7 @@ private:
     bool awaitDocument(quint64 navigation);
     bool navigate(const QUrl& url);
     void showPage(const QString& html);
+    QUrl publish(const QString& html);
     bool loadShell();
     QString serialize(bool withMarker);
     void copyToClipboard(const QVariantMap& answer);
