@@ -3,6 +3,7 @@
 #include "platform/engine/webengine.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,11 @@ int main(int argc, char** argv) {
     // have no graphics acceleration.
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--no-sandbox --disable-gpu --disable-logging");
     qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    // A home of its own for the run, where a test can see that the engine kept
+    // nothing on disk.
+    QTemporaryDir home;
+    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
+    qputenv("XDG_CACHE_HOME", home.filePath(QStringLiteral("cache")).toUtf8());
     zt::WebPageEngine::registerSchemes();
     QApplication app(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
