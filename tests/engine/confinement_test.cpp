@@ -57,6 +57,8 @@ TEST(Confinement, APageShowsItsFolderTreeAndReadsNoFile) {
     writeImage(top.filePath("secret.png"), {2, 2}, QColor(201, 7, 99));
     writeBytes(docs.filePath("inner.txt"), "INSIDE-SECRET-4420");
     writeBytes(docs.filePath("local.css"), "h1 { color: rgb(4, 5, 6); } /* INSIDE-SECRET-CSS */");
+    writeBytes(docs.filePath("data.json"), R"({"s": "INSIDE-SECRET-JSON"})");
+    writeBytes(docs.filePath("module.js"), "export default 'INSIDE-SECRET-MODULE';");
     writeImage(docs.filePath("dot.png"), {3, 2}, QColor(11, 22, 33));
     writeBytes(top.filePath("x/site/_static/style.css"), "p { color: rgb(1, 2, 3); }");
     writeImage(top.filePath("x/site/_static/up.png"), {5, 4}, QColor(44, 55, 66));
