@@ -72,9 +72,10 @@ TEST(Confinement, APageShowsItsFolderTreeAndReadsNoFile) {
                                   {"folder", docs.path()},
                                   {"name", "page.html"}}));
 
-    // The other view holds unsaved work that the page must not see either.
+    // Another preview shows unsaved work that the page must not see either.
     auto& other = EngineKit::pair(EngineKind::Web).second();
     other.setDocumentHTML(QStringLiteral("<p>UNSAVED-SECRET-5150</p>"));
+    other.setBrowseMode(true);
 
     WebPageEngine& engine = EngineKit::web();
     const auto value = [&](const char* script) { return evaluate(engine, script).toString(); };
@@ -109,6 +110,7 @@ TEST(Confinement, APageShowsItsFolderTreeAndReadsNoFile) {
     EXPECT_EQ(shown(), display) << "browse mode";
 
     engine.setBrowseMode(false);
+    other.setBrowseMode(false);
     EXPECT_TRUE(filesUnder(qEnvironmentVariable("XDG_DATA_HOME")).isEmpty() &&
                 filesUnder(qEnvironmentVariable("XDG_CACHE_HOME")).isEmpty())
         << "the engine kept something on disk";
