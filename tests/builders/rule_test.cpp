@@ -5,7 +5,6 @@
 #include "builders/rule.h"
 #include "builders/table.h"
 #include "help/frmhelp.h"
-#include "shell/closing.h"
 
 #include "platform/textlineview.h"
 
@@ -214,15 +213,4 @@ TEST(Rule, RememberedValuesAreWrittenButNeverRestored) {
     v.run([&] { dialog->ui.OKButton->click(); });
     v.tick();
     EXPECT_EQ(v.page().bodyContent(), "<HR>one two three");
-}
-
-TEST(Rule, ClosingAViewUnloadsTheDialogs) {
-    BuilderViews v;
-    v.run([&] { v.zelvo.mnuHR(); });
-    v.run([&] { v.zelvo.mnuHeading(); });
-    v.run([&] { v.zelvo.mnuHighlight(); });
-    unloadDialogs(*v.program.forms);
-    EXPECT_FALSE(v.loaded<rule>());
-    EXPECT_FALSE(v.loaded<heading>());
-    EXPECT_FALSE(v.loaded<highlight>());
 }
