@@ -63,7 +63,7 @@ void Form::setWindow(QWidget* window) {
 void Form::show() {
     if (!m_window)
         return;
-    if (!m_placed)
+    if (!m_placed && m_window->windowType() == Qt::Dialog)
         placeOver(openerOf(m_window.get()));
     m_window->show();
     m_window->raise();

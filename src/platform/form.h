@@ -26,7 +26,7 @@ public:
     Services& services() const;
 
     QWidget* window() const { return m_window.get(); }
-    // Shows the window in front. The first time, a window the program has not placed
+    // Shows the window in front. The first time, a dialog the program has not placed
     // opens in the middle of the window it was opened from: the active window, else
     // a main window that is shown, else the screen.
     void show();
