@@ -58,12 +58,12 @@ TEST(TableLoad, RestoresTheRememberedFieldsOnlyWhenRememberIsTrue) {
           {"Border", "0"},
           {"Align", "Centre"},
           {"Width", "640"},
-          {"Colour", "#0F0000"},
+          {"Colour", "#00FF00"},
           {"EmptyTable", "1"},
           {"SpecWidth", "0"},
           {"PixOrPer", "false"}},
          // A false option leaves neither option on.
-         {"5", "3", "4", "2", "0", "Centre", "640", "#0F0000", "1", "0", "0", "0", "1"}},
+         {"5", "3", "4", "2", "0", "Centre", "640", "#00FF00", "1", "0", "0", "0", "1"}},
     };
     for (const auto& c : cases) {
         BuilderViews v;
