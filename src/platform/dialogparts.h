@@ -50,10 +50,10 @@ QPushButton* makeButton(QWidget* parent, const char* name, const QString& captio
 // order and with the columns a dialog's description gives them:
 //
 //     layOut(window, {
-//         // control                                   caption     default  place
-//         {text("txtWidth", ui.txtWidth, ui.txtWidthView), "&Width:", "",     Place::Row, numeric},
-//         {check("chkPercentage", ui.chkPercentage),      "Percentage", "", Place::Beside},
-//         {button("OKButton", ui.OKButton),                "OK",        "",    Place::Accept},
+//         // control, caption, default, place, limits
+//         {text("txtWidth", ui.txtWidth, ui.txtWidthView), "&Width:", "", Place::Row, numeric},
+//         {check("chkPercentage", ui.chkPercentage), "Percentage", "", Place::Beside},
+//         {button("OKButton", ui.OKButton), "OK", "", Place::Accept},
 //     });
 //
 // Each control is made, named, given its default and put into its `ui` member.
