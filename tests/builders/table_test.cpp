@@ -72,6 +72,7 @@ TEST(TableLoad, RestoresTheRememberedFieldsOnlyWhenRememberIsTrue) {
         const table& t = v.program.forms->get<table>();
         EXPECT_EQ(fieldsOf(t), c.want) << c.what;
         EXPECT_FALSE(t.isVisible()) << c.what;
+        EXPECT_FALSE(t.window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << c.what;
         EXPECT_TRUE(v.program.failures.empty()) << c.what;
     }
 }
