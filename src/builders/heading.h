@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/form.h"
+#include "elementdialog.h"
+
 #include "platform/textcontrol.h"
 
 #include <array>
@@ -15,16 +16,12 @@ class TextLineView;
 
 // Insert Heading: a heading of level 1 to 6 with an alignment, around a text that
 // the source view prefills with its selection.
-class heading : public Form {
+class heading : public ElementDialog {
 public:
     explicit heading(FormRegistry& forms);
     ~heading() override;
 
     void load() override;
-
-    void OKButton_Click();
-    void CancelButton_Click();
-    void btnHelp_Click();
 
     struct Ui {
         TextControl compOrEdit;
@@ -42,8 +39,10 @@ public:
         QPushButton* btnHelp = nullptr;
     } ui;
 
+protected:
+    QString fragment() override;
+
 private:
-    std::array<QRadioButton*, 6> levelOptions() const;
     // The number of the level that is on.
     int level() const;
 };

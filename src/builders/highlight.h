@@ -1,7 +1,8 @@
 #pragma once
 
+#include "elementdialog.h"
+
 #include "platform/commondialog.h"
-#include "platform/form.h"
 #include "platform/textcontrol.h"
 
 class QPushButton;
@@ -14,16 +15,11 @@ class TextLineView;
 
 // Highlight Text: the source view's selection on a coloured background. The
 // visual view builds its highlight itself and only tells this dialog its caller.
-class highlight : public Form {
+class highlight : public ElementDialog {
 public:
     explicit highlight(FormRegistry& forms);
     ~highlight() override;
 
-    void load() override;
-
-    void OKButton_Click();
-    void CancelButton_Click();
-    void btnHelp_Click();
     void openColor_Click();
 
     struct Ui {
@@ -40,6 +36,9 @@ public:
         QPushButton* btnHelp = nullptr;
         CommonDialog comdlg;
     } ui;
+
+protected:
+    QString fragment() override;
 };
 
 } // namespace zt

@@ -28,7 +28,8 @@ Target targetOf(Dispatch shape, const QString& callerMode) {
     return Target::Nowhere;
 }
 
-void deliverTo(FormRegistry& forms, Target target, const QString& fragment) {
+void deliverTo(FormRegistry& forms, Target target, const QString& fragment,
+               ConsoleLanding landing) {
     switch (target) {
     case Target::Source:
         forms.get<Zelvo>().ui.area.setSelText(fragment);
@@ -37,7 +38,7 @@ void deliverTo(FormRegistry& forms, Target target, const QString& fragment) {
         forms.get<Tessara>().VisualInsert(fragment);
         break;
     case Target::Console:
-        forms.get<JSConsole>().ui.theCode.setSelText(fragment);
+        forms.get<JSConsole>().takeFragment(fragment, landing);
         break;
     case Target::Nowhere:
         break;

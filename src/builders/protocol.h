@@ -39,17 +39,20 @@ enum class Target { Source, Visual, Console, Nowhere };
 
 Target targetOf(Dispatch shape, const QString& callerMode);
 
+// How a fragment lands in the console's `theCode`. The tag is left open, or its
+// closing `>` selected, so that the console can add event attributes before it.
+enum class ConsoleLanding {
+    OpenTag,        // the fragment's final `>` becomes one blank, at the selection
+    AtSelection,    // at the selection, then the first `>` of the text is selected
+    WholeText,      // replaces the text, then its first `>` is selected
+    AtSelectionForm // at the selection, then the first `>` from character 8 is selected
+};
+
 // Source: `area.SelText` = fragment, replacing the selection of this moment.
 // Visual: Tessara's VisualInsert, completed by its timer after the dialog is gone.
-// Console: `theCode.SelText` = fragment; a dialog whose console text lands
-// differently (the whole text replaced, a selection set after) does that itself
-// for Target::Console.
-void deliverTo(FormRegistry& forms, Target target, const QString& fragment);
-
-inline void deliver(FormRegistry& forms, Dispatch shape, const QString& callerMode,
-                    const QString& fragment) {
-    deliverTo(forms, targetOf(shape, callerMode), fragment);
-}
+// Console: into `theCode` as landing says.
+void deliverTo(FormRegistry& forms, Target target, const QString& fragment,
+               ConsoleLanding landing = ConsoleLanding::OpenTag);
 
 // Loads dialog D if it is not loaded (hidden, its load step run) and writes the
 // caller into its compOrEdit. The opener then prefills and shows it.

@@ -1,12 +1,9 @@
 #pragma once
 
-#include "remember.h"
+#include "elementdialog.h"
 
 #include "platform/commondialog.h"
-#include "platform/form.h"
 #include "platform/textcontrol.h"
-
-#include <vector>
 
 class QCheckBox;
 class QComboBox;
@@ -19,19 +16,12 @@ class TextLineView;
 
 // Insert Horizontal Rule: an <HR> tag from a width, size, alignment, colour and
 // shading, for the view that opened it.
-class rule : public Form {
+class rule : public ElementDialog {
 public:
     explicit rule(FormRegistry& forms);
     ~rule() override;
 
-    void load() override;
-
-    void OKButton_Click();
-    void CancelButton_Click();
-    void btnHelp_Click();
     void btnShowColours_Click();
-    void txtWidth_Change();
-    void txtSize_Change();
 
     struct Ui {
         explicit Ui(Pickers& pickers) : comdlg(pickers) {}
@@ -54,9 +44,12 @@ public:
         CommonDialog comdlg;
     } ui;
 
-private:
+protected:
+    QString fragment() override;
     // Section "HRule", in the order the keys are kept.
-    std::vector<Remembered> rememberedFields();
+    std::vector<Remembered> rememberedFields() override;
+    bool restoresRemembered(const QString& stored) const override;
+    QString rememberWhenClear() override;
 };
 
 } // namespace zt

@@ -1,80 +1,42 @@
 #include "table.h"
 
-#include "checks.h"
-#include "platform/dialogparts.h"
-
-#include "platform/formregistry.h"
-#include "platform/services.h"
 #include "platform/textlineview.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFormLayout>
-#include <QHBoxLayout>
 #include <QRadioButton>
-#include <QVBoxLayout>
 
 namespace zt {
 
-namespace {
-
-const QString kSection = QStringLiteral("Table");
-
-} // namespace
-
-table::table(FormRegistry& forms) : Form(forms) {
-    auto* window =
-        new DialogWindow(QStringLiteral("table"), QStringLiteral("Insert Table : Zelvo"));
-    setWindow(window);
-
-    ui.txtrowView = makeLine(window, "txtrow", ui.txtrow);
-    ui.txtcolView = makeLine(window, "txtcol", ui.txtcol);
-    ui.txtcelpadView = makeLine(window, "txtcelpad", ui.txtcelpad);
-    ui.txtcelspacView = makeLine(window, "txtcelspac", ui.txtcelspac);
-    ui.txtBorderView = makeLine(window, "txtBorder", ui.txtBorder);
-    ui.cmbAlign = makeCombo(window, "cmbAlign",
-                            {QStringLiteral("Default"), QStringLiteral("Left"),
-                             QStringLiteral("Centre"), QStringLiteral("Right")});
-    ui.chkwidth = makeCheck(window, "chkwidth", QStringLiteral("Specify Width"));
-    ui.txtWidthView = makeLine(window, "txtWidth", ui.txtWidth);
-    ui.radpixels = makeOption(window, "radpixels", QStringLiteral("Pixels"));
-    ui.radpercentage = makeOption(window, "radpercentage", QStringLiteral("Percentage"));
-    ui.txtColourView = makeLine(window, "txtColour", ui.txtColour);
-    ui.chkEmptyTable = makeCheck(window, "chkEmptyTable", QStringLiteral("Create Empty Table"));
-    ui.chkRemember = makeCheck(window, "chkRemember", QStringLiteral("Remember Settings"));
-
-    // Design defaults.
-    ui.txtrow.setText(QStringLiteral("2"));
-    ui.txtcol.setText(QStringLiteral("2"));
-    ui.txtcelpad.setText(QStringLiteral("0"));
-    ui.txtcelspac.setText(QStringLiteral("0"));
-    ui.txtBorder.setText(QStringLiteral("1"));
-    ui.cmbAlign->setCurrentText(QStringLiteral("Default"));
-    ui.chkwidth->setChecked(true);
-    ui.txtWidth.setText(QStringLiteral("100"));
-    ui.radpercentage->setChecked(true);
-
-    auto* width = new QHBoxLayout;
-    width->addWidget(ui.txtWidthView, 1);
-    width->addWidget(ui.radpixels);
-    width->addWidget(ui.radpercentage);
-    auto* fields = new QFormLayout;
-    fields->addRow(QStringLiteral("Rows:"), ui.txtrowView);
-    fields->addRow(QStringLiteral("Columns:"), ui.txtcolView);
-    fields->addRow(QStringLiteral("Cell Padding:"), ui.txtcelpadView);
-    fields->addRow(QStringLiteral("Cell Spacing:"), ui.txtcelspacView);
-    fields->addRow(QStringLiteral("Border:"), ui.txtBorderView);
-    fields->addRow(QStringLiteral("Alignment:"), ui.cmbAlign);
-    fields->addRow(ui.chkwidth, width);
-    fields->addRow(QStringLiteral("Colour:"), ui.txtColourView);
-    auto* layout = new QVBoxLayout(window);
-    layout->addLayout(fields);
-    layout->addWidget(ui.chkEmptyTable);
-    layout->addWidget(ui.chkRemember);
-
-    for (TextControl* field :
-         {&ui.txtrow, &ui.txtcol, &ui.txtcelpad, &ui.txtcelspac, &ui.txtBorder, &ui.txtWidth})
-        field->addChangeHandler([this, field] { checkNumeric(*field, *services().prompts); });
+table::table(FormRegistry& forms)
+    : ElementDialog(forms, {.name = "table",
+                            .caption = QStringLiteral("Insert Table : Zelvo"),
+                            .helpPage = QStringLiteral("tb01.zhp"),
+                            .rememberIn = QStringLiteral("Table"),
+                            // Unlike most dialogs this one does not float above the others.
+                            .floats = false}) {
+    build(ui.compOrEdit,
+          {
+              // control, caption, default, place, limits
+              {text("txtrow", ui.txtrow, ui.txtrowView), "Rows:", "2", Place::Row, numeric()},
+              {text("txtcol", ui.txtcol, ui.txtcolView), "Columns:", "2", Place::Row, numeric()},
+              {text("txtcelpad", ui.txtcelpad, ui.txtcelpadView), "Cell Padding:", "0", Place::Row,
+               numeric()},
+              {text("txtcelspac", ui.txtcelspac, ui.txtcelspacView), "Cell Spacing:", "0",
+               Place::Row, numeric()},
+              {text("txtBorder", ui.txtBorder, ui.txtBorderView), "Border:", "1", Place::Row,
+               numeric()},
+              {combo("cmbAlign", ui.cmbAlign, {"Default", "Left", "Centre", "Right"}),
+               "Alignment:", "Default"},
+              {check("chkwidth", ui.chkwidth), "Specify Width", "1", Place::Line},
+              {text("txtWidth", ui.txtWidth, ui.txtWidthView), "Width:", "100", Place::Row,
+               numeric()},
+              {option("radpixels", ui.radpixels), "Pixels", "", Place::Beside},
+              {option("radpercentage", ui.radpercentage), "Percentage", "1", Place::Beside},
+              {text("txtColour", ui.txtColour, ui.txtColourView), "Colour:"},
+              {check("chkEmptyTable", ui.chkEmptyTable), "Create Empty Table", "", Place::Line},
+              {check("chkRemember", ui.chkRemember), "Remember Settings", "", Place::Line},
+          });
     // Restoring the box changes it as a click does.
     QObject::connect(ui.chkwidth, &QCheckBox::stateChanged, ui.chkwidth,
                      guarded([this](int) { chkwidth_Click(); }));
@@ -82,8 +44,17 @@ table::table(FormRegistry& forms) : Form(forms) {
 
 table::~table() = default;
 
+// The accept step with its template comes with the rest of the dialog; until then
+// the dialog has no accept button that would ask for it.
+QString table::fragment() {
+    return {};
+}
+
 std::vector<Remembered> table::rememberedFields() {
-    return {remembered(QStringLiteral("Rows"), QStringLiteral("2"), ui.txtrow),
+    Remembered remember{QStringLiteral("Remember"), QStringLiteral("0"),
+                        [this] { return QString::number(checkValue(ui.chkRemember)); },
+                        [this](const QString&) { ui.chkRemember->setChecked(true); }};
+    return {std::move(remember), remembered(QStringLiteral("Rows"), QStringLiteral("2"), ui.txtrow),
             remembered(QStringLiteral("Cols"), QStringLiteral("2"), ui.txtcol),
             remembered(QStringLiteral("CelPad"), QStringLiteral("0"), ui.txtcelpad),
             remembered(QStringLiteral("CelSpac"), QStringLiteral("0"), ui.txtcelspac),
@@ -95,15 +66,6 @@ std::vector<Remembered> table::rememberedFields() {
             remembered(QStringLiteral("EmptyTable"), QStringLiteral("0"), ui.chkEmptyTable),
             remembered(QStringLiteral("SpecWidth"), QStringLiteral("1"), ui.chkwidth),
             remembered(QStringLiteral("PixOrPer"), QStringLiteral("true"), ui.radpercentage)};
-}
-
-void table::load() {
-    // Unlike most dialogs this one does not float above the others.
-    SettingsSection section(*services().settings, kSection);
-    if (asBoolean(section.get(QStringLiteral("Remember"), QStringLiteral("0")))) {
-        section.restore(rememberedFields());
-        ui.chkRemember->setChecked(true);
-    }
 }
 
 void table::chkwidth_Click() {

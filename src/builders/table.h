@@ -1,11 +1,8 @@
 #pragma once
 
-#include "remember.h"
+#include "elementdialog.h"
 
-#include "platform/form.h"
 #include "platform/textcontrol.h"
-
-#include <vector>
 
 class QCheckBox;
 class QComboBox;
@@ -20,12 +17,10 @@ class TextLineView;
 // the rule dialog reads its `chkRemember`. The accept step with its template, the
 // colour button, the advanced group, the status-bar hints and its opening from the
 // views come with the rest of the dialog.
-class table : public Form {
+class table : public ElementDialog {
 public:
     explicit table(FormRegistry& forms);
     ~table() override;
-
-    void load() override;
 
     void chkwidth_Click();
 
@@ -53,9 +48,10 @@ public:
         QCheckBox* chkRemember = nullptr;
     } ui;
 
-private:
-    // Section "Table", without "Remember", in the order the keys are kept.
-    std::vector<Remembered> rememberedFields();
+protected:
+    QString fragment() override;
+    // Section "Table", in the order the keys are kept.
+    std::vector<Remembered> rememberedFields() override;
 };
 
 } // namespace zt

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "builders/protocol.h"
+
 #include "platform/form.h"
 #include "platform/textcontrol.h"
 
@@ -12,6 +14,9 @@ class JSConsole : public Form {
 public:
     explicit JSConsole(FormRegistry& forms);
     ~JSConsole() override;
+
+    // A dialog opened from the console hands its tag over here.
+    void takeFragment(QString fragment, ConsoleLanding landing);
 
     struct Ui {
         TextControl theCode;

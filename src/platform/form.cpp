@@ -3,7 +3,10 @@
 #include "formregistry.h"
 #include "guard.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QLayout>
+#include <QScreen>
 #include <QWidget>
 
 namespace zt {
@@ -30,6 +33,18 @@ private:
     Form& m_form;
 };
 
+// The window a new window was opened from.
+const QWidget* openerOf(const QWidget* window) {
+    const QWidget* active = QApplication::activeWindow();
+    if (active && active != window && active->isVisible())
+        return active;
+    for (const QWidget* top : QApplication::topLevelWidgets()) {
+        if (top != window && top->isVisible() && top->windowType() == Qt::Window)
+            return top;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 Form::Form(FormRegistry& forms) : m_forms(forms) {}
@@ -48,9 +63,33 @@ void Form::setWindow(QWidget* window) {
 void Form::show() {
     if (!m_window)
         return;
+    if (!m_placed && m_window->windowType() == Qt::Dialog)
+        placeOver(openerOf(m_window.get()));
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
+}
+
+void Form::placeOver(const QWidget* over) {
+    if (!m_window)
+        return;
+    m_placed = true;
+    QRect area;
+    if (over)
+        area = over->frameGeometry();
+    else if (const QScreen* screen = QGuiApplication::primaryScreen())
+        area = screen->availableGeometry();
+    else
+        return;
+    // The window is measured with the size it shows at: the one its controls need
+    // unless it was given one of its own.
+    if (QLayout* layout = m_window->layout())
+        layout->activate();
+    if (!m_window->testAttribute(Qt::WA_Resized))
+        m_window->adjustSize();
+    QRect place(QPoint(), m_window->frameGeometry().size());
+    place.moveCenter(area.center());
+    m_window->move(place.topLeft());
 }
 
 void Form::hide() {

@@ -26,7 +26,12 @@ public:
     Services& services() const;
 
     QWidget* window() const { return m_window.get(); }
+    // Shows the window in front. The first time, a dialog the program has not placed
+    // opens in the middle of the window it was opened from: the active window, else
+    // a main window that is shown, else the screen.
     void show();
+    // Puts the window in the middle of over's frame, or of the screen without one.
+    void placeOver(const QWidget* over);
     void hide();
     bool isVisible() const;
     QString caption() const;
@@ -49,6 +54,7 @@ protected:
 private:
     FormRegistry& m_forms;
     std::unique_ptr<QWidget> m_window;
+    bool m_placed = false;
 };
 
 } // namespace zt

@@ -3,6 +3,7 @@
 #include "form.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <memory>
 #include <typeindex>
@@ -12,6 +13,18 @@
 namespace zt {
 
 struct Services;
+
+namespace detail {
+// Enters a form class in the list of formNames(); returns type.
+std::type_index listForm(std::type_index type);
+// Every form class that get<F>() is used with anywhere in the program is listed
+// when the program starts.
+template <class F> inline const std::type_index kFormType = listForm(typeid(F));
+} // namespace detail
+
+// The name of every form class of the program that code can load, in no order. A
+// form's name is its class name.
+QStringList formNames();
 
 // Owns the single instance of every form. Asking for a form loads it on first touch
 // (hidden, its load step run); unloading forgets it, so the next touch gives a fresh
@@ -24,7 +37,7 @@ public:
     Services& services() const { return m_services; }
 
     template <class F> F& get() {
-        const std::type_index key(typeid(F));
+        const std::type_index key = detail::kFormType<F>;
         if (auto it = m_forms.find(key); it != m_forms.end())
             return static_cast<F&>(*it->second);
         auto made = std::make_unique<F>(*this);
@@ -43,6 +56,9 @@ public:
         return it == m_forms.end() || unload(*it->second);
     }
     bool unload(Form& form);
+    // Unloads the form of that name when it is loaded; false when its unload step
+    // cancelled.
+    bool unload(const QString& name);
 
     // Destroys the forms unloaded so far. Runs by itself once the current event is
     // over; tests may call it directly.

@@ -31,7 +31,8 @@ template <class F> struct ToolKey {
 
 // Compares key with each row in turn and runs the first match; a key that
 // matches nothing does nothing.
-template <class F> void dispatchKey(F& form, const std::vector<ToolKey<F>>& keys, const QString& key) {
+template <class F>
+void dispatchKey(F& form, const std::vector<ToolKey<F>>& keys, const QString& key) {
     for (const ToolKey<F>& row : keys) {
         if (key == QLatin1String(row.key)) {
             (form.*row.handler)();
@@ -95,7 +96,8 @@ void buildFormatBar(F& form, QWidget& bar, const std::vector<FormatButton<F>>& b
         }
         if (*row.status) {
             const QString status = QString::fromUtf8(row.status);
-            new EventWatcher(button, QEvent::MouseMove, [showStatus, status] { showStatus(status); });
+            new EventWatcher(button, QEvent::MouseMove,
+                             [showStatus, status] { showStatus(status); });
         }
         if (bar.layout())
             bar.layout()->addWidget(button);

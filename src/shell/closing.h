@@ -1,11 +1,16 @@
 #pragma once
 
+#include <QStringList>
+
 namespace zt {
 
 class FormRegistry;
 
-// Unloads the dialogs that close with a main window, in the program's order.
-// Forms join the one list in closing.cpp as they come.
+// The dialogs that close with a main window, by name, in the program's order. The
+// list names the program's whole set; a form not built yet is passed over.
+const QStringList& closingForms();
+
+// Unloads the loaded forms of closingForms(), in that order.
 void unloadDialogs(FormRegistry& forms);
 
 } // namespace zt

@@ -2,8 +2,6 @@
 
 #include "platform/form.h"
 
-#include <QGuiApplication>
-#include <QScreen>
 #include <QWidget>
 
 namespace zt {
@@ -23,19 +21,7 @@ void stayOnTop(Form& form) {
 }
 
 void centreOver(Form& form, const Form* owner) {
-    QWidget* window = form.window();
-    if (!window)
-        return;
-    QRect area;
-    if (owner && owner->isVisible())
-        area = owner->window()->frameGeometry();
-    else if (const QScreen* screen = QGuiApplication::primaryScreen())
-        area = screen->availableGeometry();
-    else
-        return;
-    QRect place(QPoint(), window->frameGeometry().size());
-    place.moveCenter(area.center());
-    window->move(place.topLeft());
+    form.placeOver(owner && owner->isVisible() ? owner->window() : nullptr);
 }
 
 } // namespace zt

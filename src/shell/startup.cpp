@@ -100,10 +100,6 @@ StartUp::StartUp(FormRegistry& forms) : Form(forms) {
     layout->addLayout(bottom);
     window->resize(620, 400);
 
-    const auto onClick = [](QPushButton* button, auto handler) {
-        QObject::connect(button, &QPushButton::clicked, button,
-                         guarded([handler](bool) { handler(); }));
-    };
     onClick(ui.btnBlank, [this] { btnBlank_Click(); });
     onClick(ui.btnOpenExist, [this] { btnOpenExist_Click(); });
     onClick(ui.btnTemplates, [this] { btnTemplates_Click(); });

@@ -62,7 +62,8 @@ const std::vector<FormatButton<Zelvo>>& zelvoFormatButtons() {
     using Z = Zelvo;
     using U = Zelvo::Ui;
     static const std::vector<FormatButton<Z>> buttons{
-        {&U::btnTools, "btnTools", "Tools", "", "applications-utilities", "Tools", nullptr, &U::mnuTools},
+        {&U::btnTools, "btnTools", "Tools", "", "applications-utilities", "Tools", nullptr,
+         &U::mnuTools},
         {&U::btnColourPicker, "btnColourPicker", "Colour Picker: Handy Colour Picking Tool", "",
          "color-select", "Colour", &Z::mnuColourPicker},
         {&U::btnSpell, "btnSpell", "", "", "tools-check-spelling", "Spell", &Z::mnuSpell},
@@ -74,7 +75,8 @@ const std::vector<FormatButton<Zelvo>>& zelvoFormatButtons() {
          "Highlight", &Z::mnuHighlight},
         {&U::btnFont, "btnFont", "Font", "", "font-select", "Font", &Z::mnuFont},
         {&U::btnLinks, "btnLinks", "Insert Hyperlink", "", "insert-link", "Link", &Z::mnuHyperlink},
-        {&U::btnBullets, "btnBullets", "Bullets", "", "view-list-bullet", "Bullets", &Z::mnuBullets},
+        {&U::btnBullets, "btnBullets", "Bullets", "", "view-list-bullet", "Bullets",
+         &Z::mnuBullets},
         {&U::btnNumbering, "btnNumbering", "Numbering", "", "view-list-ordered", "Numbering",
          &Z::mnuNumbering},
         {&U::btnIndent, "btnIndent", "", "", "format-indent-more", "Indent", &Z::mnuOutdent},
@@ -91,7 +93,8 @@ const std::vector<FormatButton<Tessara>>& tessaraFormatButtons() {
     using T = Tessara;
     using U = Tessara::Ui;
     static const std::vector<FormatButton<T>> buttons{
-        {&U::btnTools, "btnTools", "Tools", "", "applications-utilities", "Tools", nullptr, &U::mnuTools},
+        {&U::btnTools, "btnTools", "Tools", "", "applications-utilities", "Tools", nullptr,
+         &U::mnuTools},
         {&U::btnColourPicker, "btnColourPicker", "Colour Picker: Handy Colour Picking Tool", "",
          "color-select", "Colour", &T::mnuColourPicker},
         {&U::btnSpell, "btnSpell", "Spell Check Document", "", "tools-check-spelling", "Spell",
@@ -109,12 +112,12 @@ const std::vector<FormatButton<Tessara>>& tessaraFormatButtons() {
          "view-list-ordered", "Numbering", &T::mnuNumbering},
         {&U::btnOutdent, "btnOutdent", "Indent text", "Outdent Delected", "format-indent-less",
          "Outdent", &T::mnuIndent},
-        {&U::btnIndent, "btnIndent", "Outdent text", "Indent Selected", "format-indent-more", "Indent",
-         &T::mnuOutdent},
+        {&U::btnIndent, "btnIndent", "Outdent text", "Indent Selected", "format-indent-more",
+         "Indent", &T::mnuOutdent},
         {&U::btnTable, "btnTable", "Insert Table", "Create Table", "view-grid", "Table", nullptr,
          &U::mnuTable},
-        {&U::btnRule, "btnRule", "Insert Horizontal Rule", "Insert Horizontal Rule",
-         "list-remove", "Rule", &T::mnuRule},
+        {&U::btnRule, "btnRule", "Insert Horizontal Rule", "Insert Horizontal Rule", "list-remove",
+         "Rule", &T::mnuRule},
         {&U::btnImage, "btnImage", "Insert Image", "Insert Image/Picture", "insert-image", "Image",
          &T::btnImage_Click},
         {&U::btnFont, "btnFont", "Font", "Change Font Properties", "font-select", "Font",

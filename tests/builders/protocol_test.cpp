@@ -1,18 +1,58 @@
 #include "builderkit.h"
 
 #include "builders/colours.h"
-#include "builders/protocol.h"
+#include "builders/elementdialog.h"
+#include "builders/rule.h"
 #include "pagehelpers/jsconsole.h"
-#include "platform/dialogparts.h"
 
 #include "platform/commondialog.h"
+#include "platform/textlineview.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
 
 #include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
+
+namespace {
+
+// The smallest element dialog: a required name, three-way delivery, and the
+// console landing of each case.
+ConsoleLanding g_landing = ConsoleLanding::OpenTag;
+
+class probe : public ElementDialog {
+public:
+    explicit probe(FormRegistry& forms)
+        : ElementDialog(forms, {.name = "probe",
+                                .caption = "Probe",
+                                .shape = Dispatch::ThreeWay,
+                                .console = g_landing}) {
+        build(ui.compOrEdit, {{text("txtName", ui.txtName, ui.txtNameView),
+                               "Name:",
+                               "",
+                               Place::Row,
+                               {},
+                               "A valid name was not found"},
+                              {button("OKButton", ui.OKButton), "OK", "", Place::Accept}});
+    }
+
+    struct Ui {
+        TextControl compOrEdit;
+        TextControl txtName;
+        TextLineView* txtNameView = nullptr;
+        QPushButton* OKButton = nullptr;
+    } ui;
+
+protected:
+    QString fragment() override { return "<i n=" + ui.txtName.text() + ">"; }
+};
+
+} // namespace
 
 TEST(Protocol, EachShapeTestsItsOwnCallers) {
     using enum Target;
@@ -34,25 +74,53 @@ TEST(Protocol, EachShapeTestsItsOwnCallers) {
     }
 }
 
-TEST(Protocol, EachTargetGetsTheFragment) {
+// The console's text starts as `<body>|</body>` with the caret at the bar.
+TEST(Protocol, AcceptDeliversByTheCallerAndTheConsoleLanding) {
+    const struct {
+        const char* mode;
+        ConsoleLanding landing;
+        QString area, theCode;
+        int selStart, selLength;
+    } cases[] = {
+        {"edit", ConsoleLanding::OpenTag, "src<i n=a>", "<body></body>", 6, 0},
+        {"other", ConsoleLanding::OpenTag, "src", "<body></body>", 6, 0},
+        {"jsc", ConsoleLanding::OpenTag, "src", "<body><i n=a </body>", 13, 0},
+        {"jsc", ConsoleLanding::AtSelection, "src", "<body><i n=a></body>", 5, 1},
+        {"jsc", ConsoleLanding::WholeText, "src", "<i n=a>", 6, 1},
+        {"jsc", ConsoleLanding::AtSelectionForm, "src", "<body><i n=a></body>", 12, 1},
+    };
+    for (const auto& c : cases) {
+        BuilderViews v;
+        v.area().setText("src");
+        v.area().setSelStart(3);
+        TextControl& theCode = v.program.forms->get<JSConsole>().ui.theCode;
+        theCode.setText("<body></body>");
+        theCode.setSelStart(6);
+        g_landing = c.landing;
+        probe& dialog = dialogFor<probe>(*v.program.forms, c.mode);
+        dialog.ui.txtName.setText("a");
+        v.run([&] { dialog.ui.OKButton->click(); });
+        EXPECT_EQ(v.area().text(), c.area) << c.mode;
+        EXPECT_EQ(theCode.text(), c.theCode) << c.mode;
+        EXPECT_EQ(theCode.selStart(), c.selStart) << c.mode;
+        EXPECT_EQ(theCode.selLength(), c.selLength) << c.mode;
+        EXPECT_FALSE(v.loaded<probe>()) << c.mode;
+        EXPECT_TRUE(v.program.failures.empty()) << c.mode;
+    }
+    g_landing = ConsoleLanding::OpenTag;
+}
+
+TEST(Protocol, ARequiredFieldLeftEmptyIsWarnedOfAndKeepsTheDialog) {
     BuilderViews v;
-    v.area().setText("source");
-    v.area().setSelStart(6);
-    JSConsole& console = v.program.forms->get<JSConsole>();
-    console.ui.theCode.setText("<body></body>");
-    console.ui.theCode.setSelStart(6);
-
-    deliver(*v.program.forms, Dispatch::ThreeWay, "edit", "<a>");
-    deliver(*v.program.forms, Dispatch::ThreeWay, "jsc", "<b ");
-    deliver(*v.program.forms, Dispatch::ThreeWay, "other", "<c>");
-    EXPECT_EQ(v.area().text(), "source<a>");
-    EXPECT_EQ(console.ui.theCode.text(), "<body><b </body>");
-    EXPECT_FALSE(v.tessara.ui.Timer1.enabled());
-
-    deliver(*v.program.forms, Dispatch::ThreeWay, "comp", "<d>");
-    EXPECT_TRUE(v.tessara.ui.Timer1.enabled());
-    v.tick();
-    EXPECT_EQ(v.page().bodyContent(), "<d>one two three");
+    probe& dialog = dialogFor<probe>(*v.program.forms, "edit");
+    v.run([&] { dialog.show(); });
+    v.run([&] { dialog.ui.OKButton->click(); });
+    ASSERT_EQ(v.asked(), QStringList{"A valid name was not found"});
+    EXPECT_EQ(v.program.prompts.asked[0].title, "Assistant: Zelvo");
+    EXPECT_EQ(v.program.prompts.asked[0].style, vbExclamation);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.window()->focusWidget(), dialog.ui.txtNameView);
+    EXPECT_EQ(v.area().text(), "");
 }
 
 TEST(Protocol, ColourButtonOfAColourList) {
@@ -64,19 +132,57 @@ TEST(Protocol, ColourButtonOfAColourList) {
     } cases[] = {
         {"black empties the list's text", {0}, ""},
         {"cancel on first use empties it too", {std::nullopt}, ""},
-        {"a colour", {0x00FF00}, "#00FF00"},
-        {"a cancel takes the earlier colour again", {15, std::nullopt}, "#0F0000"},
+        {"a cancel takes the earlier colour again", {0x00FF00, std::nullopt}, "#00FF00"},
     };
     for (const auto& c : cases) {
         ScriptedPickers pickers;
         pickers.colors = c.picks;
         CommonDialog comdlg(pickers);
-        std::unique_ptr<QComboBox> colours(makeCombo(nullptr, "cmbcolour", namedColours()));
+        QComboBox* colours = nullptr;
+        std::unique_ptr<QWidget> made(combo("cmbcolour", colours, namedColours()).make(nullptr));
         for (std::size_t i = 0; i < c.picks.size(); ++i) {
             colours->setEditText("none");
             pickHexColour(comdlg, *colours);
         }
         EXPECT_EQ(colours->currentText(), c.text) << c.what;
         EXPECT_EQ(colours->count(), 16) << c.what;
+    }
+}
+
+// Typed into the focused box key by key, the text stays as typed: not completed to a
+// row, and not corrected to a row's case when the box loses the focus.
+TEST(Protocol, ACombosTypedTextStaysAsTyped) {
+    for (const QString typed : {"Cent", "center", "Right"}) {
+        BuilderViews v;
+        v.zelvo.show();
+        v.run([&] { v.zelvo.mnuHR(); });
+        rule& dialog = v.program.forms->get<rule>();
+        QApplication::setActiveWindow(dialog.window());
+        QLineEdit* edit = dialog.ui.cmbAlign->lineEdit();
+        edit->setFocus();
+        ASSERT_TRUE(edit->hasFocus());
+        edit->clear();
+        type(edit, typed);
+        EXPECT_EQ(dialog.ui.cmbAlign->currentText(), typed);
+        dialog.ui.txtWidthView->setFocus();
+        EXPECT_EQ(dialog.ui.cmbAlign->currentText(), typed);
+        v.run([&] { dialog.ui.OKButton->click(); });
+        EXPECT_EQ(v.area().text(), "<HR align=\"" + typed + "\">");
+    }
+}
+
+TEST(Protocol, ADialogOpensCentredOverTheViewOrTheScreen) {
+    for (const bool viewShown : {true, false}) {
+        BuilderViews v;
+        v.tessara.hide();
+        if (viewShown) {
+            v.zelvo.window()->setGeometry(100, 80, 900, 700);
+            v.zelvo.show();
+        }
+        v.run([&] { v.zelvo.mnuHR(); });
+        const QRect over = viewShown ? v.zelvo.window()->frameGeometry()
+                                     : QGuiApplication::primaryScreen()->availableGeometry();
+        const QPoint centre = v.program.forms->get<rule>().window()->frameGeometry().center();
+        EXPECT_LE((centre - over.center()).manhattanLength(), 8) << viewShown;
     }
 }

@@ -58,12 +58,12 @@ TEST(TableLoad, RestoresTheRememberedFieldsOnlyWhenRememberIsTrue) {
           {"Border", "0"},
           {"Align", "Centre"},
           {"Width", "640"},
-          {"Colour", "#0F0000"},
+          {"Colour", "#00FF00"},
           {"EmptyTable", "1"},
           {"SpecWidth", "0"},
           {"PixOrPer", "false"}},
          // A false option leaves neither option on.
-         {"5", "3", "4", "2", "0", "Centre", "640", "#0F0000", "1", "0", "0", "0", "1"}},
+         {"5", "3", "4", "2", "0", "Centre", "640", "#00FF00", "1", "0", "0", "0", "1"}},
     };
     for (const auto& c : cases) {
         BuilderViews v;
@@ -72,6 +72,7 @@ TEST(TableLoad, RestoresTheRememberedFieldsOnlyWhenRememberIsTrue) {
         const table& t = v.program.forms->get<table>();
         EXPECT_EQ(fieldsOf(t), c.want) << c.what;
         EXPECT_FALSE(t.isVisible()) << c.what;
+        EXPECT_FALSE(t.window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << c.what;
         EXPECT_TRUE(v.program.failures.empty()) << c.what;
     }
 }

@@ -1,0 +1,147 @@
+#include "builderkit.h"
+
+#include "builders/heading.h"
+#include "builders/highlight.h"
+#include "builders/rule.h"
+#include "help/frmhelp.h"
+
+#include "platform/textlineview.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <gtest/gtest.h>
+
+using namespace zt;
+using namespace zt::test;
+
+namespace {
+
+struct Opened {
+    ElementDialog* dialog;
+    QPushButton* ok;
+    QPushButton* help;
+};
+
+template <class D> Opened opened(BuilderViews& v) {
+    D& d = v.program.forms->get<D>();
+    return {&d, d.ui.OKButton, d.ui.btnHelp};
+}
+
+} // namespace
+
+// Each dialog from each view that opens it: its window, what it prefills, its help
+// page, and its fragment where the caller said, the source view's at the selection
+// of the moment of OK. The page starts as "one two three" with "two" selected.
+TEST(ElementDialogs, FromEachViewTheFragmentGoesWhereTheCallerSaid) {
+    const struct {
+        const char* what;
+        std::function<void(BuilderViews&)> open;
+        std::function<Opened(BuilderViews&)> fill;
+        QString caption, help, area, page;
+    } cases[] = {
+        {"rule from the source view", [](BuilderViews& v) { v.zelvo.mnuHR(); },
+         [](BuilderViews& v) {
+             rule& d = v.program.forms->get<rule>();
+             v.selectInArea("three");
+             d.ui.txtWidth.setText("50");
+             d.ui.chkPercentage->setChecked(true);
+             d.ui.cmbAlign->setCurrentText("Right");
+             d.ui.chkShade->setChecked(true);
+             return opened<rule>(v);
+         },
+         "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE",
+         R"(one two <HR width="50%" align="Right" NOSHADE>)", "one two three"},
+        {"rule from the visual view", [](BuilderViews& v) { v.tessara.mnuRule(); },
+         [](BuilderViews& v) {
+             rule& d = v.program.forms->get<rule>();
+             d.ui.txtSize.setText("3");
+             d.ui.txtColour.setText("red");
+             return opened<rule>(v);
+         },
+         "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE", "one two three",
+         R"(one <HR color="red" size="3"> three)"},
+        {"heading from the source view", [](BuilderViews& v) { v.zelvo.mnuHeading(); },
+         [](BuilderViews& v) {
+             heading& d = v.program.forms->get<heading>();
+             EXPECT_EQ(d.ui.txtHeadingView->text(), "one");
+             EXPECT_TRUE(d.ui.radLevel1->isChecked());
+             EXPECT_EQ(d.ui.listAlign->currentItem()->text(), "Left");
+             d.ui.radLevel3->setChecked(true);
+             d.ui.listAlign->setCurrentRow(1);
+             return opened<heading>(v);
+         },
+         "Insert Heading : Zelvo", "INSERT HEADING", R"(<H3 align="Center">one</H3> two three)",
+         "one two three"},
+        {"heading from the visual view", [](BuilderViews& v) { v.tessara.mnuHeading(); },
+         [](BuilderViews& v) {
+             EXPECT_EQ(v.program.forms->get<heading>().ui.txtHeading.text(), "");
+             return opened<heading>(v);
+         },
+         "Insert Heading : Zelvo", "INSERT HEADING", "one two three",
+         R"(one <H1 align="Left"></H1> three)"},
+        {"highlight from the source view", [](BuilderViews& v) { v.zelvo.mnuHighlight(); },
+         [](BuilderViews& v) {
+             highlight& d = v.program.forms->get<highlight>();
+             EXPECT_EQ(d.ui.txthighlight.text(), "one");
+             v.program.pickers.colors = {0xFFFF00};
+             d.ui.openColor->click();
+             EXPECT_EQ(d.ui.txtColour.text(), "#00FFFF");
+             d.ui.txtColour.setText("#ff0000");
+             return opened<highlight>(v);
+         },
+         "Highlight Text : Zelvo", "HIGHLIGHT TEXT",
+         R"(<span style="background-color: #FF0000">one</span>  two three)", "one two three"},
+    };
+    for (const auto& c : cases) {
+        BuilderViews v;
+        v.area().setText("one two three");
+        v.selectInArea("one");
+        v.page().selectText("two");
+        v.run([&] { c.open(v); });
+        const Opened d = c.fill(v);
+        EXPECT_TRUE(d.dialog->isVisible()) << c.what;
+        EXPECT_EQ(d.dialog->caption(), c.caption) << c.what;
+        EXPECT_TRUE(d.dialog->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << c.what;
+        v.run([&] { d.help->click(); });
+        EXPECT_TRUE(v.program.forms->get<frmHelp>().ui.txtHelp.text().startsWith(c.help)) << c.what;
+
+        v.run([&] { d.ok->click(); });
+        EXPECT_EQ(v.area().text(), c.area) << c.what;
+        ASSERT_EQ(v.tessara.ui.Timer1.enabled(), c.page != "one two three") << c.what;
+        if (v.tessara.ui.Timer1.enabled())
+            v.tick();
+        EXPECT_EQ(v.page().bodyContent(), c.page) << c.what;
+        EXPECT_FALSE(v.loaded<rule>()) << c.what;
+        EXPECT_FALSE(v.loaded<heading>()) << c.what;
+        EXPECT_FALSE(v.loaded<highlight>()) << c.what;
+        EXPECT_TRUE(v.program.failures.empty()) << c.what;
+    }
+}
+
+TEST(ElementDialogs, CancelEscTheFrameAndEnter) {
+    const struct {
+        const char* way;
+        std::function<void(rule&)> press;
+        QString area;
+    } cases[] = {
+        {"Cancel", [](rule& d) { d.ui.CancelButton->click(); }, "x"},
+        {"Esc", [](rule& d) { press(d.ui.txtWidthView, Qt::Key_Escape); }, "x"},
+        {"Enter", [](rule& d) { press(d.ui.txtWidthView, Qt::Key_Return); }, R"(<HR width="7">x)"},
+        {"frame", [](rule& d) { d.window()->close(); }, "x"},
+    };
+    for (const auto& c : cases) {
+        BuilderViews v;
+        v.area().setText("x");
+        v.run([&] { v.zelvo.mnuHR(); });
+        rule& dialog = v.program.forms->get<rule>();
+        dialog.ui.txtWidth.setText("7");
+        c.press(dialog);
+        EXPECT_FALSE(v.loaded<rule>()) << c.way;
+        EXPECT_EQ(v.area().text(), c.area) << c.way;
+        EXPECT_TRUE(v.program.failures.empty()) << c.way;
+    }
+}
