@@ -1,11 +1,14 @@
-// The menu items of the two views that open the rule, heading and highlight
-// dialogs, and the visual view's own Highlight.
+// The menu items of the two views that open the element dialogs, and the visual
+// view's own Highlight.
 #include "colours.h"
+#include "frmrow.h"
 #include "heading.h"
 #include "highlight.h"
 #include "highlightgen.h"
 #include "protocol.h"
 #include "rule.h"
+#include "table.h"
+#include "vistbl.h"
 
 #include "shell/tessara.h"
 #include "shell/zelvo.h"
@@ -29,6 +32,27 @@ void Zelvo::mnuHighlight() {
     highlight& dialog = dialogFor<highlight>(forms(), caller::kEdit);
     dialog.ui.txthighlight.setText(ui.area.selText());
     dialog.show();
+}
+
+void Zelvo::mnuinstable() {
+    dialogFor<table>(forms(), caller::kEdit).show();
+}
+
+// The row dialog has no caller: its rows always go to the source text.
+void Zelvo::mnuinsrowcol() {
+    forms().get<frmrow>().show();
+}
+
+void Zelvo::mnuVisTbl() {
+    dialogFor<visTbl>(forms(), caller::kEdit).show();
+}
+
+void Tessara::mnuInsTable() {
+    dialogFor<table>(forms(), caller::kComp).show();
+}
+
+void Tessara::mnuVisTbl() {
+    dialogFor<visTbl>(forms(), caller::kComp).show();
 }
 
 void Tessara::mnuRule() {

@@ -2,29 +2,38 @@
 
 #include "elementdialog.h"
 
+#include "platform/commondialog.h"
 #include "platform/textcontrol.h"
 
 class QCheckBox;
 class QComboBox;
+class QGroupBox;
+class QLabel;
+class QPushButton;
 class QRadioButton;
 
 namespace zt {
 
+class Pickers;
 class TextLineView;
 
-// Insert Table. So far the dialog holds the fields it remembers and its load,
-// which brings them back from section "Table" when "Remember Settings" was ticked;
-// the rule dialog reads its `chkRemember`. The accept step with its template, the
-// colour button, the advanced group, the status-bar hints and its opening from the
-// views come with the rest of the dialog.
+// Insert Table: a whole table from its counts, spacing, border, alignment, width and
+// colour, with an advanced group of table styles, for the view that opened it. The
+// rule dialog reads this dialog's `chkRemember`.
 class table : public ElementDialog {
 public:
     explicit table(FormRegistry& forms);
     ~table() override;
 
     void chkwidth_Click();
+    void chkAdvanced_Click();
+    void btnShowColours_Click();
+    // Moving the mouse over a caption of the advanced group explains it in Status.
+    void showHint(const QString& text);
 
     struct Ui {
+        explicit Ui(Pickers& pickers) : comdlg(pickers) {}
+
         TextControl compOrEdit;
         TextControl txtrow;
         TextLineView* txtrowView = nullptr;
@@ -44,14 +53,40 @@ public:
         QRadioButton* radpercentage = nullptr;
         TextControl txtColour;
         TextLineView* txtColourView = nullptr;
+        QPushButton* btnShowColours = nullptr;
         QCheckBox* chkEmptyTable = nullptr;
         QCheckBox* chkRemember = nullptr;
+        QCheckBox* chkAdvanced = nullptr;
+        QGroupBox* frmAdvanced = nullptr;
+        QComboBox* cmbBorderCollapse = nullptr;
+        QComboBox* cmbCaptionSide = nullptr;
+        QComboBox* cmbEmptyCells = nullptr;
+        QComboBox* cmbTableLayout = nullptr;
+        TextControl txtSpac1;
+        TextLineView* txtSpac1View = nullptr;
+        TextControl txtSpac2;
+        TextLineView* txtSpac2View = nullptr;
+        TextControl txtCaption;
+        TextLineView* txtCaptionView = nullptr;
+        QLabel* lblBorderCollapse = nullptr;
+        QLabel* lblBorderSpacing = nullptr;
+        QLabel* lblCaptionSide = nullptr;
+        QLabel* lblEmptyCells = nullptr;
+        QLabel* lblTableLayout = nullptr;
+        QLabel* Status = nullptr;
+        QPushButton* OKButton = nullptr;
+        QPushButton* CancelButton = nullptr;
+        QPushButton* btnHelp = nullptr;
+        CommonDialog comdlg;
     } ui;
 
 protected:
     QString fragment() override;
     // Section "Table", in the order the keys are kept.
     std::vector<Remembered> rememberedFields() override;
+
+private:
+    void addHints();
 };
 
 } // namespace zt

@@ -59,6 +59,7 @@ void applyDefault(const Control& control, QWidget* widget) {
     }
     case Field::Button:
     case Field::Group:
+    case Field::Widget:
         break;
     }
 }
@@ -66,7 +67,7 @@ void applyDefault(const Control& control, QWidget* widget) {
 // The captions that the control's own widget shows.
 bool showsItsCaption(Field::Kind kind) {
     return kind == Field::Check || kind == Field::Option || kind == Field::Button ||
-           kind == Field::Group;
+           kind == Field::Group || kind == Field::Widget;
 }
 
 } // namespace
@@ -143,6 +144,15 @@ Field list(const char* name, QListWidget*& list, const QStringList& rows) {
             }};
 }
 
+Field dropList(const char* name, QComboBox*& list, const QStringList& rows) {
+    return {Field::Combo, name, [name, &list, rows](QWidget* parent) -> QWidget* {
+                list = named(new QComboBox(parent), name);
+                list->addItems(rows);
+                list->setCurrentIndex(-1);
+                return list;
+            }};
+}
+
 Field button(const char* name, QPushButton*& button) {
     return {Field::Button, name, [name, &button](QWidget* parent) -> QWidget* {
                 button = named(new QPushButton(parent), name);
@@ -150,8 +160,14 @@ Field button(const char* name, QPushButton*& button) {
             }};
 }
 
-Field group() {
-    return {Field::Group, "", [](QWidget* parent) -> QWidget* { return new QGroupBox(parent); }};
+Field group(const char* name) {
+    return {Field::Group, name,
+            [name](QWidget* parent) -> QWidget* { return named(new QGroupBox(parent), name); }};
+}
+
+Field widget(const char* name, std::function<QWidget*(QWidget* parent)> make) {
+    return {Field::Widget, name,
+            [name, make](QWidget* parent) -> QWidget* { return named(make(parent), name); }};
 }
 
 FootButtons layOut(DialogWindow* window, const Controls& controls) {
@@ -164,11 +180,13 @@ FootButtons layOut(DialogWindow* window, const Controls& controls) {
     QHBoxLayout* groups = nullptr;
     QGridLayout* inGroup = nullptr;
     int groupCount = 0;
+    // Where a control placed Beside goes: the group when the one before it went there.
+    QGridLayout* besideIn = fields;
 
     for (const Control& control : controls) {
         QWidget* widget = control.field.make(window);
         const Field::Kind kind = control.field.kind;
-        if (showsItsCaption(kind)) {
+        if (showsItsCaption(kind) && kind != Field::Widget) {
             if (auto* groupBox = qobject_cast<QGroupBox*>(widget))
                 groupBox->setTitle(control.caption);
             else
@@ -200,14 +218,19 @@ FootButtons layOut(DialogWindow* window, const Controls& controls) {
         case Place::Row:
             ++row;
             column = 2;
+            besideIn = fields;
             if (!control.caption.isEmpty() && !showsItsCaption(kind))
                 fields->addWidget(label(), row, 0);
             fields->addWidget(widget, row, 1);
             break;
         case Place::Beside:
-            fields->addWidget(widget, row, column++);
+            if (besideIn == inGroup && inGroup)
+                inGroup->addWidget(widget, groupCount - 1, column++);
+            else
+                fields->addWidget(widget, row, column++);
             break;
         case Place::Line:
+            besideIn = fields;
             if (!control.caption.isEmpty() && !showsItsCaption(kind))
                 fields->addWidget(label(), ++row, 0, 1, -1);
             fields->addWidget(widget, ++row, 0, 1, -1);
@@ -217,7 +240,14 @@ FootButtons layOut(DialogWindow* window, const Controls& controls) {
             }
             break;
         case Place::InGroup:
-            inGroup->addWidget(widget, groupCount % 3, groupCount / 3);
+            if (showsItsCaption(kind)) {
+                inGroup->addWidget(widget, groupCount % 3, groupCount / 3);
+            } else {
+                inGroup->addWidget(label(), groupCount, 0);
+                inGroup->addWidget(widget, groupCount, 1);
+                column = 2;
+                besideIn = inGroup;
+            }
             ++groupCount;
             break;
         case Place::Accept:

@@ -60,7 +60,7 @@ QPushButton* makeButton(QWidget* parent, const char* name, const QString& captio
 
 // What a control is and which member of the dialog's `ui` receives it.
 struct Field {
-    enum Kind { Text, Memo, Check, Option, Combo, List, Button, Group };
+    enum Kind { Text, Memo, Check, Option, Combo, List, Button, Group, Widget };
     Kind kind;
     // The program's name of the control, given to the widget as its object name.
     const char* name;
@@ -81,17 +81,23 @@ Field option(const char* name, QRadioButton*& option);
 Field combo(const char* name, QComboBox*& combo, const QStringList& rows);
 // A list showing all its rows, one selectable at a time.
 Field list(const char* name, QListWidget*& list, const QStringList& rows);
+// A list that drops down: one of its rows or none, nothing typed. It opens with no
+// row selected unless the table gives a default.
+Field dropList(const char* name, QComboBox*& list, const QStringList& rows);
 Field button(const char* name, QPushButton*& button);
 // A framed group with the caption; the controls placed InGroup after it go inside.
-Field group();
+Field group(const char* name = "");
+// A widget the dialog makes itself (a grid of cells, a status bar), without a caption.
+Field widget(const char* name, std::function<QWidget*(QWidget* parent)> make);
 
 // Where a control goes.
 enum class Place {
     Row,     // a new row: the caption as the control's label, then the control
-    Beside,  // on the row of the control before it, after that one
+    Beside,  // on the row of the control before it, after that one, in its group too
     Line,    // a row of its own across the dialog; a text box's caption stands above
-    InGroup, // in the group opened last, in columns of three; a group placed InGroup
-             // stands beside the group before it
+    InGroup, // in the group opened last: controls that show their own caption in
+             // columns of three, others one a row after their label; a group
+             // placed InGroup stands beside the group before it
     Accept,  // the button row at the foot: the default button, on Enter
     Cancel,  // the button row: the button that Esc and the frame's close press
     Help,    // the button row, on the help side

@@ -59,8 +59,6 @@ void Tessara::mnuAlignCentre() {}
 void Tessara::mnuAlignRight() {}
 void Tessara::mnuPageProps() {}
 void Tessara::mnuRemFormat() {}
-void Tessara::mnuVisTbl() {}
-void Tessara::mnuInsTable() {}
 void Tessara::mnuInsRow() {}
 void Tessara::mnuInsCol() {}
 void Tessara::mnuInsCell() {}

@@ -37,9 +37,6 @@ void Zelvo::mnuHidden() {}
 void Zelvo::mnuHyperlink() {}
 void Zelvo::mnuLinkMail() {}
 void Zelvo::mnuBookmarks() {}
-void Zelvo::mnuVisTbl() {}
-void Zelvo::mnuinstable() {}
-void Zelvo::mnuinsrowcol() {}
 void Zelvo::mnuRectangularBox() {}
 void Zelvo::mnusmartsel() {}
 void Zelvo::mnuSpell() {}

@@ -1,12 +1,19 @@
 #include "builderkit.h"
 
+#include "builders/frmrow.h"
 #include "builders/table.h"
+#include "builders/vistbl.h"
 
 #include "platform/textlineview.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
 #include <QRadioButton>
 
 #include <gtest/gtest.h>
@@ -92,4 +99,146 @@ TEST(TableLoad, ARestoredClearWidthBoxDisablesTheWidthAndANonNumberIsRefused) {
     t.ui.chkwidth->setChecked(true);
     EXPECT_TRUE(t.ui.txtWidthView->isEnabled());
     EXPECT_TRUE(t.ui.radpixels->isEnabled());
+}
+
+namespace {
+
+void moveOver(QWidget* widget) {
+    QMouseEvent move(QEvent::MouseMove, QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)),
+                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &move);
+}
+
+void clickOn(QWidget* widget) {
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &event);
+    }
+}
+
+} // namespace
+
+// Through the menus: fields emptied to 0 in the dialog, the advanced choices kept
+// while their group is hidden, the hints, and the remembered keys written.
+TEST(TableDialog, FromEachViewByItsMenu) {
+    BuilderViews v;
+    v.area().setText("[]");
+    v.area().setSelStart(1);
+    v.zelvo.ui.mnuinstable->trigger();
+    table& t = v.program.forms->get<table>();
+    ASSERT_TRUE(t.isVisible());
+    t.ui.txtrow.setText("1");
+    t.ui.txtcelpad.setText("");
+    t.ui.cmbAlign->setCurrentText("Centre");
+    t.ui.chkAdvanced->click();
+    t.ui.cmbCaptionSide->setCurrentIndex(1);
+    t.ui.chkAdvanced->click();
+    EXPECT_FALSE(t.ui.frmAdvanced->isVisible());
+    moveOver(t.ui.lblCaptionSide);
+    EXPECT_EQ(t.ui.Status->text(), "Sets the position of the table caption");
+    moveOver(t.ui.lblEmptyCells);
+    EXPECT_EQ(t.ui.Status->text(), "Sets whether or not to show empty cells in a table (only "
+                                   "for the \"separated borders\" model) ");
+    t.ui.chkRemember->setChecked(true);
+    t.ui.OKButton->click();
+    EXPECT_EQ(v.area().text(),
+              "[<div align=\"center\">\r\n<TABLE border=\"1\" width=\"100%\" style=\" "
+              "caption-side: bottom;\">\r\n\r\n<tr>\r\n   <td> Row 1 Col 1</td>\r\n"
+              "   <td> Row 1 Col 2</td>\r\n</tr>\r\n</TABLE>\r\n</div>]");
+    EXPECT_EQ(v.setting("Table", "CelPad"), "0") << "the emptied field was set to 0";
+    EXPECT_EQ(v.setting("Table", "Align"), "Centre");
+    EXPECT_FALSE(v.loaded<table>());
+
+    v.tessara.ui.mnuInsTable->trigger();
+    table& remembered = v.program.forms->get<table>();
+    EXPECT_EQ(remembered.ui.txtrow.text(), "1");
+    EXPECT_EQ(remembered.ui.cmbCaptionSide->currentIndex(), -1) << "styles are not remembered";
+    remembered.ui.chkEmptyTable->setChecked(true);
+    v.page().selectText("one");
+    remembered.ui.OKButton->click();
+    v.tick();
+    EXPECT_EQ(v.page().bodyContent(),
+              "<div align=\"center\">\r\n<TABLE border=\"1\" width=\"100%\">\r\n\r\n<tr>\r\n"
+              "   <td> </td>\r\n   <td> </td>\r\n</tr>\r\n</TABLE>\r\n</div> two three");
+    EXPECT_TRUE(v.program.failures.empty());
+}
+
+TEST(TableDialog, AnEmptyCountPassesWhileTypingAndFailsAtOk) {
+    for (TextControl* (*field)(table&) :
+         {+[](table& t) { return &t.ui.txtrow; }, +[](table& t) { return &t.ui.txtcol; }}) {
+        BuilderViews v;
+        v.area().setText("x");
+        v.zelvo.ui.mnuinstable->trigger();
+        table& t = v.program.forms->get<table>();
+        field(t)->setText("");
+        EXPECT_TRUE(v.program.prompts.asked.empty());
+        t.ui.OKButton->click();
+        ASSERT_EQ(v.program.failures.size(), 1u);
+        EXPECT_EQ(v.program.failures[0].number(), RuntimeFailure::TypeMismatch);
+        EXPECT_EQ(v.area().text(), "x");
+    }
+}
+
+TEST(RowDialog, DigitsOnlyAndTheRowsGoToTheSourceView) {
+    BuilderViews v;
+    v.area().setText("<TABLE></TABLE>");
+    v.area().setSelStart(7);
+    v.zelvo.ui.mnuinsrowcol->trigger();
+    frmrow& r = v.program.forms->get<frmrow>();
+    EXPECT_EQ(r.ui.cmbcolour->currentText(), "none");
+    r.ui.txtrowView->setFocus();
+    r.ui.txtrowView->selectAll();
+    type(r.ui.txtrowView, "1.");
+    EXPECT_EQ(r.ui.txtrow.text(), "1");
+    ASSERT_EQ(v.program.prompts.asked.size(), 1u);
+    EXPECT_EQ(v.program.prompts.asked[0].text, "Invalid Value");
+    r.ui.txtcol.setText("-");
+    EXPECT_EQ(r.ui.txtcol.text(), "2") << "nothing left: back to 2";
+    v.program.pickers.colors = {0x00FF00};
+    r.ui.btnMoreColours->click();
+    r.ui.OKButton->click();
+    EXPECT_EQ(v.area().text(), "<TABLE><tr bgcolor=\"#00FF00\">\r\n   <td> New Row 1 Col 1</td>"
+                               "\r\n   <td> New Row 1 Col 2</td>\r\n</tr></TABLE>");
+    EXPECT_FALSE(v.loaded<frmrow>());
+    EXPECT_TRUE(v.program.failures.empty());
+}
+
+TEST(VisualTable, TheGridFollowsThePointerAndAClickInserts) {
+    BuilderViews v;
+    v.area().setText("");
+    v.zelvo.ui.mnuVisTbl->trigger();
+    visTbl& g = v.program.forms->get<visTbl>();
+    const auto lit = [&] {
+        QString cells;
+        for (int i = 0; i < 100; ++i)
+            cells += g.isLit(i) ? QString::number(i) + " " : "";
+        return cells.trimmed();
+    };
+    moveOver(g.ui.num11[23]);
+    EXPECT_EQ(lit(), "0 1 2 3 10 11 12 13 20 21 22 23");
+    EXPECT_TRUE(g.ui.Timer1.enabled());
+    moveOver(g.ui.num11[1]);
+    EXPECT_EQ(lit(), "0 1 2 3 10 11 12 13 20 21 22 23") << "left over until the tick";
+    g.ui.Timer1.fire();
+    EXPECT_EQ(lit(), "0 1");
+    moveOver(g.window());
+    EXPECT_EQ(lit(), "");
+    EXPECT_FALSE(g.ui.Timer1.enabled());
+
+    clickOn(g.ui.num11[5]);
+    EXPECT_EQ(v.area().text().count("<tr>"), 6);
+    EXPECT_EQ(v.area().text().count("<td> </td>"), 36) << "cell 5 gives six by six";
+    EXPECT_FALSE(v.loaded<visTbl>());
+
+    v.tessara.ui.mnuVisTbl->trigger();
+    v.page().selectText("two");
+    clickOn(v.program.forms->get<visTbl>().ui.num11[10]);
+    v.tick();
+    EXPECT_EQ(v.page().bodyContent(),
+              "one <TABLE border=1>\r\n<tr>\r\n   <td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</td>\r\n"
+              "</tr>\r\n<tr>\r\n   <td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</td>\r\n</tr>\r\n"
+              "</TABLE> three");
+    EXPECT_TRUE(v.program.failures.empty());
 }

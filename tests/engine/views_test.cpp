@@ -1,10 +1,14 @@
 // The two views of one document on the real page engine.
 #include "enginekit.h"
 
+#include "builders/table.h"
 #include "platform/engine/webengine.h"
 #include "shell/tessara.h"
 #include "shell/zelvo.h"
 #include "support/testprogram.h"
+
+#include <QAction>
+#include <QPushButton>
 
 #include <gtest/gtest.h>
 
@@ -73,5 +77,17 @@ TEST_F(RealViews, TwoFragmentsBeforeTheTickInsertOnlyTheSecondAtTheCaret) {
     EXPECT_FALSE(tessara().ui.Timer1.enabled());
     EXPECT_TRUE(program->clipboard.html().contains("second"))
         << "the fragment went by the clipboard";
+    EXPECT_TRUE(program->failures.empty());
+}
+
+TEST_F(RealViews, ATableFromTheVisualViewArrivesAsATable) {
+    tessara().ui.txtComp->setDocumentHTML("<HTML><HEAD></HEAD><BODY><P>page</P></BODY></HTML>");
+    program->event([&] { tessara().ui.mnuInsTable->trigger(); });
+    program->event([&] { program->forms->get<table>().ui.OKButton->click(); });
+    tessara().ui.Timer1.fire();
+    const QString html = tessara().ui.txtComp->documentHTML();
+    EXPECT_TRUE(html.contains("<table border=\"1\" width=\"100%\">")) << html.toStdString();
+    EXPECT_EQ(html.count("<tr>"), 2);
+    EXPECT_TRUE(html.contains("<td> Row 2 Col 2</td>"));
     EXPECT_TRUE(program->failures.empty());
 }
