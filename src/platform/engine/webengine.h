@@ -44,6 +44,7 @@ public:
     static void registerSchemes();
 
     QString documentHTML() override;
+    QString documentHTMLWithin(std::chrono::milliseconds deadline) override;
     void setDocumentHTML(const QString& html) override;
     void execCommand(DhtmlCommand id) override;
 
@@ -86,7 +87,7 @@ private:
     bool navigate(const QUrl& url);
     void showPage(const QString& html);
     bool loadShell();
-    QString serialize(bool withMarker);
+    QString serialize(bool withMarker, std::chrono::milliseconds deadline);
     void copyToClipboard(const QVariantMap& answer);
     void requireEditable() const;
     bool showsOwnPage() const;
