@@ -113,6 +113,9 @@ QString WebPageEngine::documentHTML() {
 }
 
 QString WebPageEngine::documentHTMLWithin(std::chrono::milliseconds deadline) {
+    // A page still on its way has no text to give within a short wait.
+    if (m_navigating)
+        throw RuntimeFailure::invalidProcedureCall();
     return serialize(true, deadline);
 }
 
@@ -411,6 +414,7 @@ QString WebPageEngine::serialize(bool withMarker, std::chrono::milliseconds dead
         {"givenGenerators", QJsonArray::fromStringList(m_givenGenerators)},
         {"scripting", m_browseMode},
     };
+    settle();
     const QVariant text = runScriptNow("ztSerializePage", args, deadline);
     if (text.typeId() != QMetaType::QString)
         throw RuntimeFailure::invalidProcedureCall();
