@@ -37,24 +37,6 @@ int failureOf(const std::function<void()>& body) {
 
 } // namespace
 
-TEST(TextFiles, EveryByteOfWindows1252ComesBackAsItWas) {
-    QTemporaryDir dir;
-    const QString path = dir.filePath("old.html");
-    QByteArray page = "<HTML><BODY><P>";
-    for (int b = 0x80; b <= 0xFF; ++b)
-        page += char(b);
-    page += "</P></BODY></HTML>\r\n";
-    putBytes(path, page);
-
-    const textfiles::TextFile file = textfiles::read(path);
-    EXPECT_EQ(file.encoding.charset, "windows-1252");
-    EXPECT_TRUE(file.text.contains(QString::fromUtf8("€\u0081‚") + QChar(0x0192)));
-    EXPECT_TRUE(file.text.contains(QString::fromUtf8("“”•–—")));
-    EXPECT_TRUE(file.text.contains(QString::fromUtf8("éêëìíîïðñòóôõö÷øùúûüýþÿ")));
-    textfiles::write(path, file.text);
-    EXPECT_EQ(bytesOf(path), page);
-}
-
 TEST(TextFiles, ReadsByMarkThenUtf8ThenTheDeclaredCharsetThenWindows1252) {
     QTemporaryDir dir;
     const QString path = dir.filePath("page.html");
