@@ -10,7 +10,7 @@ mode=${1:-run}
 
 packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-webengine-dev libgl-dev
           libqt6svg6 adwaita-icon-theme libgtest-dev libbenchmark-dev libhunspell-dev
-          hunspell-en-us clang-format)
+          hunspell-en-us clang-format xvfb xdotool)
 
 missing=()
 for p in "${packages[@]}"; do

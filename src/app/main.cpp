@@ -1,3 +1,4 @@
+#include "platform/endsignals.h"
 #include "platform/engine/webengine.h"
 #include "platform/formregistry.h"
 #include "platform/guard.h"
@@ -5,6 +6,7 @@
 #include "platform/qtservices.h"
 #include "platform/services.h"
 #include "platform/settingsstore.h"
+#include "safety/finalsave.h"
 #include "shell/frmsplash.h"
 
 #include <QApplication>
@@ -47,6 +49,15 @@ int main(int argc, char** argv) {
         return std::make_unique<zt::WebPageEngine>(clipboard, parent);
     };
     zt::FormRegistry forms(services);
+
+    // The run time's failure still shows its box and ends the program, and the
+    // desktop may end it at logout; either way the open document is kept first.
+    zt::Guard::setBeforeEnding([&forms] { zt::finalsave::writeOpenDocument(forms); });
+    zt::EndSignals endSignals([&forms](int signal) {
+        if (zt::finalsave::unsavedWork(forms))
+            zt::finalsave::writeOpenDocument(forms);
+        zt::EndSignals::endBySignal(signal);
+    });
 
     // The splash comes first; its ticks bring up the visual view and then the
     // start-up assistant.

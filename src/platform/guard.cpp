@@ -31,6 +31,21 @@ void defaultProcessEnd() {
 
 Guard::Ending g_ending = defaultEnding;
 Guard::ProcessEnd g_processEnd = defaultProcessEnd;
+std::function<void()> g_beforeEnding;
+
+void endByFailure(const RuntimeFailure& failure) {
+    // A save that waits on the engine lets events through; one of them may fail too.
+    static bool saving = false;
+    if (g_beforeEnding && !saving) {
+        saving = true;
+        try {
+            g_beforeEnding();
+        } catch (...) {
+        }
+        saving = false;
+    }
+    g_ending(failure);
+}
 
 struct DepthScope {
     DepthScope() { ++g_depth; }
@@ -45,18 +60,22 @@ bool Guard::run(const std::function<void()>& body) {
         body();
         return true;
     } catch (const RuntimeFailure& failure) {
-        g_ending(failure);
+        endByFailure(failure);
     } catch (const ProcessEnded&) {
     } catch (const std::exception& e) {
         // Anything else is a fault of the program itself; the user sees it the way
         // the run time reports an internal error.
-        g_ending(RuntimeFailure(51, QStringLiteral("Internal error (%1)").arg(e.what())));
+        endByFailure(RuntimeFailure(51, QStringLiteral("Internal error (%1)").arg(e.what())));
     }
     return false;
 }
 
 void Guard::setEnding(Ending ending) {
     g_ending = ending ? std::move(ending) : defaultEnding;
+}
+
+void Guard::setBeforeEnding(std::function<void()> save) {
+    g_beforeEnding = std::move(save);
 }
 
 void Guard::setProcessEnd(ProcessEnd end) {
@@ -66,6 +85,7 @@ void Guard::setProcessEnd(ProcessEnd end) {
 void Guard::restoreDefaults() {
     g_ending = defaultEnding;
     g_processEnd = defaultProcessEnd;
+    g_beforeEnding = nullptr;
 }
 
 int Guard::depth() {

@@ -24,6 +24,10 @@ public:
     static bool run(const std::function<void()>& body);
 
     static void setEnding(Ending ending);
+    // Runs before the ending of every failure that reaches the guard: the program's
+    // chance to keep the open document before the box and the end. It must not
+    // throw, and it never runs twice at once.
+    static void setBeforeEnding(std::function<void()> save);
     static void setProcessEnd(ProcessEnd end);
     static void restoreDefaults();
 

@@ -5,9 +5,11 @@
 #include "platform/runtimefailure.h"
 #include "platform/services.h"
 #include "platform/settingsstore.h"
+#include "platform/textfiles.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QStringList>
 
 namespace zt::document {
@@ -33,6 +35,27 @@ QString caption(const QString& star, const QString& path) {
 
 QString tempCrashFile() {
     return QDir::tempPath() + QStringLiteral("/ZlvTmpCrash.html");
+}
+
+bool acceptsFile(Services& services, const QString& path) {
+    // The largest pages in use are a few megabytes. Far beyond that the source view
+    // freezes for many seconds and the page engine may not answer in time at all.
+    constexpr qint64 kLargest = 16 * 1024 * 1024;
+    const QFileInfo file(path);
+    QString refusal;
+    if (file.isFile() && file.size() > kLargest)
+        refusal = QStringLiteral("%1 is %2 MB, more than the %3 MB a page may have, so it was "
+                                 "not opened.")
+                      .arg(file.fileName())
+                      .arg((file.size() + (1 << 20) - 1) >> 20)
+                      .arg(kLargest >> 20);
+    else if (textfiles::looksBinary(path))
+        refusal =
+            QStringLiteral("%1 is not a text file, so it was not opened.").arg(file.fileName());
+    if (refusal.isEmpty())
+        return true;
+    services.prompts->msgBox(refusal, vbExclamation, kAssistant);
+    return false;
 }
 
 bool askSaveFirst(Services& services) {

@@ -315,7 +315,7 @@ private:
     void Form_Resize();
     void saveVisualFile();
     void pushRecentVisual();
-    void openChosenFile();
+    bool openChosenFile();
 
     QMainWindow* m_window;
 };

@@ -36,38 +36,49 @@ void Tessara::mnuNew() {
     ui.txtComp->newDocument();
     zelvo.ui.comdlg.fileName.clear();
     zelvo.Tag.clear();
+    zelvo.encoding = {};
     ui.ComDlg.fileName.clear();
     setCaption(kNewCaption);
 }
 
-// The load after the dialog, shared by both ways through Open.
-void Tessara::openChosenFile() {
+// The load after the dialog, shared by both ways through Open. False when the
+// chosen file was refused and the document stays as it was.
+bool Tessara::openChosenFile() {
     Zelvo& zelvo = forms().get<Zelvo>();
     zelvo.ui.comdlg.showOpen();
     if (zelvo.ui.comdlg.fileName.isEmpty())
-        return;
+        return true;
+    if (!document::acceptsFile(services(), zelvo.ui.comdlg.fileName))
+        return false;
     ui.txtComp->loadDocument(zelvo.ui.comdlg.fileName);
+    zelvo.encoding = textfiles::encodingOf(zelvo.ui.comdlg.fileName);
     zelvo.Tag = zelvo.ui.comdlg.fileName;
     pushRecentVisual();
     titleupdate();
+    return true;
 }
 
 void Tessara::mnuOpen() {
     Zelvo& zelvo = forms().get<Zelvo>();
     CommonDialog& comdlg = zelvo.ui.comdlg;
+    bool opened = true;
     if (zelvo.ui.star.text().isEmpty()) {
         comdlg.cancelError = true;
         comdlg.defaultExt = QStringLiteral("html");
         comdlg.filter = document::kFilter;
-        openChosenFile();
+        opened = openChosenFile();
     } else {
         comdlg.cancelError = true;
         if (document::askSaveFirst(services())) {
             mnuSave();
         } else {
             comdlg.defaultExt = QStringLiteral("html");
-            openChosenFile();
+            opened = openChosenFile();
         }
+    }
+    if (!opened) {
+        comdlg.fileName.clear();
+        return;
     }
     // Kept as it is: after a save with no dialog the name is empty here, and the
     // document loses its path.
@@ -94,7 +105,7 @@ void Tessara::mnuSave() {
 void Tessara::saveVisualFile() {
     Zelvo& zelvo = forms().get<Zelvo>();
     VisualSync(*ui.txtComp, RuleSet::GeneratorOnly, zelvo.ui.area);
-    textfiles::write(zelvo.Tag, zelvo.ui.area.text() + QStringLiteral("\r\n"));
+    textfiles::write(zelvo.Tag, zelvo.ui.area.text() + QStringLiteral("\r\n"), zelvo.encoding);
 }
 
 void Tessara::mnuSaveAs() {
@@ -125,7 +136,10 @@ void Tessara::recent_Click(int index) {
             }
         }
         const QString chosen = ui.recent[std::size_t(index)]->text();
+        if (!document::acceptsFile(services(), chosen))
+            return;
         ui.txtComp->loadDocument(chosen);
+        zelvo.encoding = textfiles::encodingOf(chosen);
         zelvo.ui.comdlg.fileName = chosen;
         zelvo.Tag = zelvo.ui.comdlg.fileName;
         titleupdate();

@@ -3,6 +3,7 @@
 #include "platform/commondialog.h"
 #include "platform/form.h"
 #include "platform/textcontrol.h"
+#include "platform/textfiles.h"
 
 #include <QString>
 
@@ -171,6 +172,8 @@ public:
 
     // The document's path; empty means never saved.
     QString Tag;
+    // How the document's file was written on disk; its saves write the same way.
+    textfiles::Encoding encoding;
 
     struct Ui {
         explicit Ui(Pickers& pickers) : comdlg(pickers) {}

@@ -36,6 +36,7 @@ void Zelvo::mnuew() {
         }
     }
     ui.area.setText(m_blankPage);
+    encoding = {};
     ui.star.setText(QString());
     setCaption(document::caption(ui.star.text(), QStringLiteral("Untitled")));
 }
@@ -44,7 +45,7 @@ void Zelvo::mnuOpen() {
     orEndSilently([&] {
         setUpFileDialog(QStringLiteral("*.html"));
         ui.comdlg.showOpen();
-        if (ui.comdlg.fileName.isEmpty())
+        if (ui.comdlg.fileName.isEmpty() || !document::acceptsFile(services(), ui.comdlg.fileName))
             return;
         loadSourceFile();
         Tag = ui.comdlg.fileName;
@@ -56,7 +57,9 @@ void Zelvo::mnuOpen() {
 
 void Zelvo::loadSourceFile() {
     ui.area.setText(QString());
-    ui.area.setText(textfiles::readAll(ui.comdlg.fileName));
+    const textfiles::TextFile file = textfiles::read(ui.comdlg.fileName);
+    ui.area.setText(file.text);
+    encoding = file.encoding;
     titleupdate();
 }
 
@@ -84,7 +87,7 @@ void Zelvo::mnuSave() {
 void Zelvo::saveSourceFile() {
     // One line written: the text and a line break, so each save and load cycle
     // adds a break at the end.
-    textfiles::write(Tag, ui.area.text() + QStringLiteral("\r\n"));
+    textfiles::write(Tag, ui.area.text() + QStringLiteral("\r\n"), encoding);
 }
 
 void Zelvo::mnuSaveAs() {
@@ -104,7 +107,7 @@ void Zelvo::mnuSaveAs() {
 
 void Zelvo::mnuInsFile() {
     ui.comdlg.showOpen();
-    if (ui.comdlg.fileName.isEmpty())
+    if (ui.comdlg.fileName.isEmpty() || !document::acceptsFile(services(), ui.comdlg.fileName))
         return;
     const QStringList lines = textfiles::readLines(ui.comdlg.fileName);
     for (const QString& line : lines)
@@ -120,7 +123,11 @@ void Zelvo::recent_Click(int index) {
             }
         }
         const QString chosen = ui.recent[std::size_t(index)]->text();
-        ui.area.setText(textfiles::readAll(chosen));
+        if (!document::acceptsFile(services(), chosen))
+            return;
+        const textfiles::TextFile file = textfiles::read(chosen);
+        ui.area.setText(file.text);
+        encoding = file.encoding;
         ui.comdlg.fileName = chosen;
         titleupdate();
     });

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <functional>
 
 class QWidget;
@@ -68,6 +69,12 @@ public:
     // double quotes, CR LF line breaks, &nbsp; kept, and the generator marker in the
     // head when the page has no generator line of its own.
     virtual QString documentHTML() = 0;
+    // The same, failing with 5 when the engine has not answered within deadline;
+    // for the last save before the program ends, which must not wait long.
+    virtual QString documentHTMLWithin(std::chrono::milliseconds deadline) {
+        (void)deadline;
+        return documentHTML();
+    }
     virtual void setDocumentHTML(const QString& html) = 0;
 
     virtual void execCommand(DhtmlCommand id) = 0;

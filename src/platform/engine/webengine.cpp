@@ -109,7 +109,14 @@ void WebPageEngine::registerSchemes() {
 }
 
 QString WebPageEngine::documentHTML() {
-    return serialize(true);
+    return serialize(true, kDeadline);
+}
+
+QString WebPageEngine::documentHTMLWithin(std::chrono::milliseconds deadline) {
+    // A page still on its way has no text to give within a short wait.
+    if (m_navigating)
+        throw RuntimeFailure::invalidProcedureCall();
+    return serialize(true, deadline);
 }
 
 void WebPageEngine::setDocumentHTML(const QString& html) {
@@ -190,7 +197,7 @@ void WebPageEngine::setBrowseMode(bool on) {
     // (where its scripts now run), and leaving it shows the page as it was before
     // its scripts ran.
     const bool ownPage = showsOwnPage();
-    const QString text = !ownPage ? QString() : on ? serialize(false) : m_browseSource;
+    const QString text = !ownPage ? QString() : on ? serialize(false, kDeadline) : m_browseSource;
     m_browseMode = on;
     QWebEngineSettings* settings = page()->settings();
     settings->setAttribute(QWebEngineSettings::JavascriptEnabled, on);
@@ -405,13 +412,14 @@ bool WebPageEngine::loadShell() {
     return true;
 }
 
-QString WebPageEngine::serialize(bool withMarker) {
+QString WebPageEngine::serialize(bool withMarker, std::chrono::milliseconds deadline) {
     const QJsonObject args{
         {"marker", withMarker ? QJsonValue(kEngineGeneratorMarker) : QJsonValue()},
         {"givenGenerators", QJsonArray::fromStringList(m_givenGenerators)},
         {"scripting", m_browseMode},
     };
-    const QVariant text = runScript("ztSerializePage", args);
+    settle();
+    const QVariant text = runScriptNow("ztSerializePage", args, deadline);
     if (text.typeId() != QMetaType::QString)
         throw RuntimeFailure::invalidProcedureCall();
     return pagetext::withCrLf(text.toString());

@@ -44,6 +44,7 @@ public:
     static void registerSchemes();
 
     QString documentHTML() override;
+    QString documentHTMLWithin(std::chrono::milliseconds deadline) override;
     void setDocumentHTML(const QString& html) override;
     void execCommand(DhtmlCommand id) override;
 
@@ -87,7 +88,7 @@ private:
     void showPage(const QString& html);
     QUrl publish(const QString& html);
     bool loadShell();
-    QString serialize(bool withMarker);
+    QString serialize(bool withMarker, std::chrono::milliseconds deadline);
     void copyToClipboard(const QVariantMap& answer);
     void requireEditable() const;
     bool showsOwnPage() const;

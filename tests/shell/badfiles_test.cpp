@@ -1,0 +1,142 @@
+#include "views.h"
+
+#include "platform/guard.h"
+#include "platform/runtimefailure.h"
+#include "safety/finalsave.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+using namespace zt;
+using namespace zt::test;
+
+namespace {
+
+// What a bad file does to an Open: refused with a box (the document untouched),
+// opened, or the command's own failure path: the source view's silent end with the
+// text it cleared first, the visual view's run-time failure.
+enum Outcome { Refused, Opened, FailurePath };
+
+struct BadFile {
+    const char* what;
+    std::function<QString(Views&)> make;
+    Outcome outcome;
+    int visualFailure;
+    const char* message;
+};
+
+const QString kKept = "<HTML><BODY><P>kept</P></BODY></HTML>";
+
+void keepADocument(Views& v, const QString& path) {
+    v.tag() = path;
+    v.area().setText(kKept);
+    v.txtComp().setDocumentHTML(kKept);
+    v.zelvo.ui.star.setText("");
+    v.zelvo.titleupdate();
+    v.tessara.titleupdate();
+}
+
+QStringList crashFiles(Views& v) {
+    return QDir(v.program.folder.path("crash")).entryList({"*.crw"}, QDir::Files);
+}
+
+} // namespace
+
+TEST(BadFiles, EachOpenEndsInARefusalAnOpenOrTheCommandsFailurePath) {
+    const BadFile cases[] = {
+        {"binary",
+         [](Views& v) {
+             return v.file("pic.png", QString::fromLatin1("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
+         },
+         Refused, 0, "pic.png is not a text file, so it was not opened."},
+        {"too large",
+         [](Views& v) {
+             const QString path = v.program.scratch("big.html");
+             QFile file(path);
+             file.open(QIODevice::WriteOnly);
+             file.resize(17 * 1024 * 1024);
+             return path;
+         },
+         Refused, 0,
+         "big.html is 17 MB, more than the 16 MB a page may have, so it was not opened."},
+        {"empty", [](Views& v) { return v.file("empty.html", ""); }, Opened, 0, ""},
+        {"vanished", [](Views& v) { return v.program.scratch("gone.html"); }, FailurePath,
+         RuntimeFailure::FileNotFound, ""},
+        {"folder",
+         [](Views& v) {
+             QDir().mkpath(v.program.scratch("folder.html"));
+             return v.program.scratch("folder.html");
+         },
+         FailurePath, 75, ""},
+        // Tests run as root, who reads a file of mode 000; this file refuses even root.
+        {"unreadable", [](Views&) { return QString("/proc/self/mem"); }, FailurePath, 75, ""},
+    };
+    for (const BadFile& c : cases)
+        for (const bool visual : {false, true}) {
+            const std::string label = std::string(c.what) + (visual ? ", visual" : ", source");
+            Views v;
+            Guard::setBeforeEnding([&] { finalsave::writeOpenDocument(*v.program.forms); });
+            const QString old = v.file("old.html", kKept);
+            keepADocument(v, old);
+            const QString captions = v.zelvo.caption() + v.tessara.caption();
+            const QString path = c.make(v);
+            v.program.pickers.files = {path};
+            v.run([&] { visual ? v.tessara.mnuOpen() : v.zelvo.mnuOpen(); });
+
+            EXPECT_EQ(v.asked(), c.outcome == Refused ? QStringList{c.message} : QStringList{})
+                << label;
+            const bool visualFailure = visual && c.outcome == FailurePath;
+            ASSERT_EQ(v.program.failures.size(), visualFailure ? 1u : 0u) << label;
+            if (visualFailure) {
+                EXPECT_EQ(v.program.failures[0].number(), c.visualFailure) << label;
+                EXPECT_EQ(crashFiles(v).size(), 1u) << label << ": kept before the end";
+            }
+            if (c.outcome == Opened) {
+                EXPECT_EQ(v.tag(), path) << label;
+                EXPECT_TRUE(visual || v.area().text().isEmpty()) << label;
+            } else if (c.outcome == Refused || visual) {
+                EXPECT_EQ(v.tag(), old) << label;
+                EXPECT_EQ(v.area().text(), kKept) << label;
+                EXPECT_EQ(v.star(), "") << label;
+                EXPECT_EQ(v.zelvo.caption() + v.tessara.caption(), captions) << label;
+            } else {
+                // The source view's Open clears the text before it reads the file.
+                EXPECT_EQ(v.tag(), old) << label;
+                EXPECT_EQ(v.area().text(), "") << label;
+            }
+        }
+}
+
+TEST(BadFiles, ASaveThatCannotWriteKeepsTheMarkOrEndsByTheRunTimeFailure) {
+    // A folder where the file was stands for a read-only file, since root writes
+    // those; /dev/full is a disk with no room left.
+    for (const QString& target : {QString("folder"), QString("/dev/full")})
+        for (const bool visual : {false, true}) {
+            const std::string label = target.toStdString() + (visual ? ", visual" : ", source");
+            Views v;
+            Guard::setBeforeEnding([&] { finalsave::writeOpenDocument(*v.program.forms); });
+            QString path = target;
+            if (target == "folder") {
+                path = v.program.scratch("page.html");
+                QDir().mkpath(path);
+            }
+            keepADocument(v, path);
+            v.area().setText(kKept + "<P>typed</P>");
+            const QString caption = (visual ? static_cast<Form&>(v.tessara) : v.zelvo).caption();
+            v.run([&] { visual ? v.tessara.mnuSave() : v.zelvo.mnuSave(); });
+
+            EXPECT_EQ(v.star(), "*") << label;
+            EXPECT_EQ(v.tag(), path) << label;
+            EXPECT_TRUE(v.asked().isEmpty()) << label;
+            if (visual) {
+                ASSERT_EQ(v.program.failures.size(), 1u) << label;
+                EXPECT_EQ(v.program.failures[0].number(), 75) << label;
+                EXPECT_EQ(crashFiles(v).size(), 1u) << label;
+            } else {
+                EXPECT_TRUE(v.program.failures.empty()) << label;
+                EXPECT_EQ(v.area().text(), kKept + "<P>typed</P>") << label;
+                EXPECT_EQ(v.zelvo.caption(), caption) << label;
+            }
+        }
+}
