@@ -32,6 +32,8 @@ if [ ! -f "$build/build.ninja" ]; then
     command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     cmake -S "$here" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${launcher[@]}"
 fi
+# ccache, where the machine has it, finds its results again from any checkout.
+export CCACHE_BASEDIR="$here"
 cmake --build "$build" -j "$(nproc)"
 
 case "$mode" in

@@ -27,9 +27,8 @@ QString caption(const QString& star, const QString& path);
 QString tempCrashFile();
 
 // Whether path may be opened as a document. A file that holds no text (an image,
-// a program) or is far larger than any page is refused with a box that says so, before anything of the open
-// document changes; a file that cannot be read is left to the command's own
-// failure path.
+// a program) or is far larger than any page is refused with a box that says so, before anything of
+// the open document changes; a file that cannot be read is left to the command's own failure path.
 bool acceptsFile(Services& services, const QString& path);
 
 // "File not saved. Would you like to save your file first?": true for Yes.
