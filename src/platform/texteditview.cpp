@@ -53,6 +53,18 @@ void TextEditView::deleteSelection() {
     replaceSelected(textCursor(), QString());
 }
 
+// Source text needs no ligatures or kerning, and shaping a long line costs many times
+// more than looking up its glyphs; scripts that need shaping keep it whatever the font.
+void TextEditView::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange && !(font().styleStrategy() & QFont::PreferNoShaping)) {
+        QFont unshaped = font();
+        unshaped.setStyleStrategy(
+            QFont::StyleStrategy(unshaped.styleStrategy() | QFont::PreferNoShaping));
+        setFont(unshaped);
+    }
+}
+
 void TextEditView::keyPressEvent(QKeyEvent* event) {
     event->accept();
     if (isReadOnly() || !handleEditingKey(event))
@@ -283,14 +295,29 @@ void TextEditView::applyToDocument(const TextChange& change) {
     QTextCursor cursor(document());
     cursor.setPosition(documentStart);
     cursor.setPosition(int(documentStart + documentRemoved), QTextCursor::KeepAnchor);
-    cursor.insertText(linebreaks::toDocument(edit.inserted));
+    const QString inserted = linebreaks::toDocument(edit.inserted);
+    cursor.insertText(inserted);
     m_positions.replaced(text, start, edit.removed, int(edit.inserted.size()));
+    keepGlyphsOfLongLines(documentStart, int(documentStart + inserted.size()));
 }
 
 // The whole text anew, when it all changed or the document went its own way.
 void TextEditView::showText() {
     m_positions.reset(m_control.text());
     setPlainText(linebreaks::toDocument(m_control.text()));
+    keepGlyphsOfLongLines(0, document()->characterCount());
+}
+
+// A line's layout forgets its glyphs once laid out, so every caret query and repaint
+// shapes the whole line again: nothing for a short line, most of a keystroke's cost
+// for a line of a hundred thousand characters. Long lines keep theirs.
+void TextEditView::keepGlyphsOfLongLines(int from, int to) {
+    constexpr int kLongLine = 1000;
+    for (QTextBlock block = document()->findBlock(from); block.isValid() && block.position() <= to;
+         block = block.next()) {
+        if (block.length() > kLongLine)
+            block.layout()->setCacheEnabled(true);
+    }
 }
 
 void TextEditView::showSelection() {

@@ -27,6 +27,7 @@ public:
     void deleteSelection();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
@@ -45,6 +46,7 @@ private:
     void showControl(const TextChange& change);
     void applyToDocument(const TextChange& change);
     void showText();
+    void keepGlyphsOfLongLines(int from, int to);
     void showSelection();
     void mirrorSelection();
     void documentChangedBehindUs();
