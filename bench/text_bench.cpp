@@ -1,11 +1,16 @@
 // The cost of the source view's text commands: a tag pair put round a selection and
-// taken off again, and one keystroke with the source view's whole Change chain.
+// taken off again, and one key typed into the source view of a large page.
 
 #include "benchapp.h"
 
 #include "platform/textcontrol.h"
+#include "platform/texteditview.h"
 #include "shell/views.h"
 #include "source/wrapcommands.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
 
 #include <benchmark/benchmark.h>
 
@@ -62,21 +67,57 @@ void boldWrapAndUnwrapInTheSourceView(benchmark::State& state) {
     }
 }
 
-// One typed character in the middle of a 1 MB text: one SelText assignment and the
-// source view's Change chain (dirty mark, caption, line count, status text) with the
-// editor following the edit.
-void keystrokeOn1MB(benchmark::State& state) {
-    zt::test::Views& v = views();
-    v.area().setText(documentOfSize(1024 * 1024));
-    const int middle = 512 * 1024;
-    for (auto _ : state) {
-        v.area().setSelStart(middle);
-        v.area().setSelText(QStringLiteral("x"));
+// A 6 MB page of short lines; with a long line, its last 145 000 characters are one
+// line, as in pages whose script or markup was written without breaks.
+constexpr qsizetype kPageSize = 6 * 1024 * 1024;
+constexpr qsizetype kLongLine = 145000;
+
+QString pageForTyping(bool longLine) {
+    QString text = documentOfSize(kPageSize);
+    if (longLine) {
+        QString line = text.right(kLongLine);
+        line.replace(QStringLiteral("\r\n"), QStringLiteral("  "));
+        text.replace(text.size() - kLongLine, kLongLine, line);
     }
+    return text;
+}
+
+// One key typed into the source view's editor, as the user types it: the key event,
+// the editor's edit, the SelText assignment with the whole Change chain of area, and
+// the repaint. Runs type "x" and take it back with Backspace in turn, so the page
+// stays the same. Places: the top, the middle and the end of the page, or with the
+// long line its start, middle and end.
+void keystroke(benchmark::State& state) {
+    const bool longLine = state.range(0) != 0;
+    const int place = int(state.range(1));
+    zt::test::Views& v = views();
+    QWidget* editor = v.zelvo.ui.areaView;
+    editor->window()->show();
+    v.area().setText(pageForTyping(longLine));
+    const qsizetype from = longLine ? kPageSize - kLongLine : 0;
+    v.area().setSelStart(int(from + (kPageSize - from) * place / 2));
+    QCoreApplication::processEvents();
+
+    QKeyEvent typeX(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+    QKeyEvent backspace(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier);
+    bool typed = false;
+    for (auto _ : state) {
+        QCoreApplication::sendEvent(editor, typed ? &backspace : &typeX);
+        QCoreApplication::processEvents();
+        typed = !typed;
+    }
+    if (v.area().text().size() != kPageSize + (typed ? 1 : 0))
+        state.SkipWithError("the keys did not reach the text");
+    static const char* const places[] = {"top", "middle", "end"};
+    state.SetLabel(std::string(longLine ? "long line " : "lines ") + places[place]);
+    editor->window()->hide();
 }
 
 } // namespace
 
 BENCHMARK(boldWrapAndUnwrap)->Unit(benchmark::kMicrosecond);
 BENCHMARK(boldWrapAndUnwrapInTheSourceView)->Unit(benchmark::kMicrosecond);
-BENCHMARK(keystrokeOn1MB)->Unit(benchmark::kMicrosecond);
+BENCHMARK(keystroke)
+    ->ArgsProduct({{0, 1}, {0, 1, 2}})
+    ->ArgNames({"longLine", "place"})
+    ->Unit(benchmark::kMicrosecond);

@@ -2,6 +2,8 @@
 # Installs what is missing, builds, and then runs the program or the tests.
 #   scripts/dev.sh run    build and start the program
 #   scripts/dev.sh test   build and run every test suite (no display needed)
+#   scripts/dev.sh asan   the same under AddressSanitizer and UndefinedBehaviorSanitizer,
+#                         in build-asan (several times slower, so CI leaves it out)
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -27,9 +29,17 @@ if [ ${#missing[@]} -gt 0 ]; then
     apt-get install -y -qq "${missing[@]}"
 fi
 
+launcher=()
+command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+
+if [ "$mode" = asan ]; then
+    cd "$here"
+    [ -f build-asan/build.ninja ] || cmake --preset asan "${launcher[@]}"
+    cmake --build --preset asan -j "$(nproc)"
+    exec ctest --preset asan
+fi
+
 if [ ! -f "$build/build.ninja" ]; then
-    launcher=()
-    command -v ccache >/dev/null && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     cmake -S "$here" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "${launcher[@]}"
 fi
 # ccache, where the machine has it, finds its results again from any checkout.
@@ -45,7 +55,7 @@ test)
     QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j 1
     ;;
 *)
-    echo "usage: scripts/dev.sh run|test" >&2
+    echo "usage: scripts/dev.sh run|test|asan" >&2
     exit 2
     ;;
 esac

@@ -42,20 +42,99 @@ QString toModel(QStringView plainText) {
     return text;
 }
 
-int toDocumentPosition(QStringView modelText, int modelPosition) {
-    const qsizetype position = std::clamp<qsizetype>(modelPosition, 0, modelText.size());
-    return int(position - modelText.left(position).count(u"\r\n"));
+namespace {
+
+bool pairAt(QStringView text, qsizetype index) {
+    return at(text, index, kCr) && at(text, index + 1, kLf);
 }
 
-int toModelPosition(QStringView modelText, int documentPosition) {
-    const qsizetype position = std::max(documentPosition, 0);
-    qsizetype pairs = 0;
-    qsizetype pair = modelText.indexOf(u"\r\n");
-    while (pair >= 0 && pair - pairs < position) {
-        ++pairs;
-        pair = modelText.indexOf(u"\r\n", pair + 2);
+int pairsIn(QStringView text) {
+    return int(text.count(u"\r\n"));
+}
+
+} // namespace
+
+void PositionMap::cut(QStringView modelText, qsizetype from, qsizetype to,
+                      std::vector<Piece>& out) const {
+    while (from < to) {
+        qsizetype end = std::min(from + m_pieceLength, to);
+        if (pairAt(modelText, end - 1) && end < to)
+            ++end;
+        out.push_back({int(end - from), pairsIn(modelText.sliced(from, end - from))});
+        from = end;
     }
-    return int(std::min(position + pairs, modelText.size()));
+}
+
+void PositionMap::reset(QStringView modelText) {
+    m_pieces.clear();
+    cut(modelText, 0, modelText.size(), m_pieces);
+}
+
+void PositionMap::replaced(QStringView modelText, int start, int removed, int inserted) {
+    if (m_pieces.empty()) {
+        reset(modelText);
+        return;
+    }
+    // The pieces that held the replaced text, [first, last], from from to to of the old
+    // text; an insertion at the very end goes to the last piece.
+    std::size_t first = 0;
+    qsizetype from = 0;
+    while (first + 1 < m_pieces.size() && from + m_pieces[first].length <= start)
+        from += m_pieces[first++].length;
+    std::size_t last = first;
+    qsizetype to = from + m_pieces[first].length;
+    while (last + 1 < m_pieces.size() && to < start + removed)
+        to += m_pieces[++last].length;
+    to += inserted - removed;
+
+    // What is left of them is read again with a neighbour when it has become small,
+    // so that the pieces stay few; and with the neighbour whose break now forms a pair
+    // with a character across the cut.
+    if (to - from < m_pieceLength / 4) {
+        if (last + 1 < m_pieces.size())
+            to += m_pieces[++last].length;
+        else if (first > 0)
+            from -= m_pieces[--first].length;
+    }
+    while (first > 0 && pairAt(modelText, from - 1))
+        from -= m_pieces[--first].length;
+    while (last + 1 < m_pieces.size() && pairAt(modelText, to - 1))
+        to += m_pieces[++last].length;
+
+    std::vector<Piece> pieces;
+    cut(modelText, from, to, pieces);
+    const auto begin = m_pieces.begin() + std::ptrdiff_t(first);
+    m_pieces.erase(begin, begin + std::ptrdiff_t(last - first + 1));
+    m_pieces.insert(m_pieces.begin() + std::ptrdiff_t(first), pieces.begin(), pieces.end());
+}
+
+int PositionMap::toDocumentPosition(QStringView modelText, int modelPosition) const {
+    const qsizetype position = std::clamp<qsizetype>(modelPosition, 0, modelText.size());
+    qsizetype model = 0;
+    qsizetype document = 0;
+    for (const Piece& piece : m_pieces) {
+        if (model + piece.length > position)
+            break;
+        model += piece.length;
+        document += piece.length - piece.pairs;
+    }
+    const qsizetype rest = position - model;
+    return int(document + rest - pairsIn(modelText.sliced(model, rest)));
+}
+
+int PositionMap::toModelPosition(QStringView modelText, int documentPosition) const {
+    const qsizetype position = std::max(documentPosition, 0);
+    qsizetype model = 0;
+    qsizetype document = 0;
+    for (const Piece& piece : m_pieces) {
+        if (document + piece.length - piece.pairs > position)
+            break;
+        model += piece.length;
+        document += piece.length - piece.pairs;
+    }
+    for (; document < position && model < modelText.size(); ++document)
+        model += pairAt(modelText, model) ? 2 : 1;
+    return int(model);
 }
 
 Replacement difference(QStringView before, QStringView after) {

@@ -3,14 +3,15 @@
 #include "runtimefailure.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zt {
 
 void TextControl::setText(const QString& text) {
-    m_text = text;
+    const TextChange change{0, std::exchange(m_text, text), int(text.size())};
     m_selStart = 0;
     m_selLength = 0;
-    notifyObserver();
+    notifyObserver(change);
     fireChange();
 }
 
@@ -19,14 +20,14 @@ void TextControl::setSelStart(int start) {
         throw RuntimeFailure::invalidPropertyValue();
     m_selStart = std::min<int>(start, m_text.size());
     m_selLength = 0;
-    notifyObserver();
+    notifyObserver({});
 }
 
 void TextControl::setSelLength(int length) {
     if (length < 0)
         throw RuntimeFailure::invalidPropertyValue();
     m_selLength = std::min<int>(length, m_text.size() - m_selStart);
-    notifyObserver();
+    notifyObserver({});
 }
 
 QString TextControl::selText() const {
@@ -34,10 +35,11 @@ QString TextControl::selText() const {
 }
 
 void TextControl::setSelText(const QString& text) {
+    const TextChange change{m_selStart, selText(), int(text.size())};
     m_text.replace(m_selStart, m_selLength, text);
     m_selStart += text.size();
     m_selLength = 0;
-    notifyObserver();
+    notifyObserver(change);
     fireChange();
 }
 
@@ -51,9 +53,9 @@ void TextControl::fireChange() {
     }
 }
 
-void TextControl::notifyObserver() {
+void TextControl::notifyObserver(const TextChange& change) {
     if (m_observer)
-        m_observer();
+        m_observer(change);
 }
 
 } // namespace zt

@@ -11,9 +11,21 @@ namespace zt {
 // characters) with a selection. Every assignment fires Change synchronously, inside
 // the assignment, before the next statement of the caller runs; a failure thrown by
 // a Change handler comes out of the assignment.
+// What one assignment did to the text, for a view that follows it: `removed`, the
+// text that stood at start, gave way to `inserted` new characters. A change of the
+// selection alone removes and inserts nothing.
+struct TextChange {
+    int start = 0;
+    QString removed;
+    int inserted = 0;
+
+    bool changesText() const { return !removed.isEmpty() || inserted > 0; }
+};
+
 class TextControl {
 public:
     using Handler = std::function<void()>;
+    using Observer = std::function<void(const TextChange& change)>;
 
     const QString& text() const { return m_text; }
     // Replaces the whole text; the caret goes to 0. Fires Change.
@@ -36,18 +48,21 @@ public:
 
     // Change handlers of the program, run in order on every assignment.
     void addChangeHandler(Handler handler) { m_changeHandlers.push_back(std::move(handler)); }
-    // A view's listener, told of every change of text or selection. Views never throw.
-    void setObserver(Handler observer) { m_observer = std::move(observer); }
+    // A view's listener, told of every change of text or selection, with what changed
+    // in the text, so that it can follow without reading the whole text. Views never
+    // throw.
+    void setObserver(Observer observer) { m_observer = std::move(observer); }
 
 private:
     void fireChange();
-    void notifyObserver();
+    // Every change of the text must say what it replaced, or a view falls out of step.
+    void notifyObserver(const TextChange& change);
 
     QString m_text;
     int m_selStart = 0;
     int m_selLength = 0;
     std::vector<Handler> m_changeHandlers;
-    Handler m_observer;
+    Observer m_observer;
 };
 
 } // namespace zt

@@ -23,15 +23,14 @@ TextEditView::TextEditView(TextControl& control, QWidget* parent)
     setUndoRedoEnabled(false);
     {
         QScopedValueRollback showing(m_showing, true);
-        m_shown = m_control.text();
-        setPlainText(linebreaks::toDocument(m_shown));
+        showText();
     }
     showSelection();
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &TextEditView::mirrorSelection);
     connect(this, &QPlainTextEdit::selectionChanged, this, &TextEditView::mirrorSelection);
     connect(document(), &QTextDocument::contentsChange, this,
             &TextEditView::documentChangedBehindUs);
-    m_control.setObserver([this] { showControl(); });
+    m_control.setObserver([this](const TextChange& change) { showControl(change); });
 }
 
 TextEditView::~TextEditView() {
@@ -52,6 +51,18 @@ void TextEditView::deleteSelection() {
     if (isReadOnly() || !textCursor().hasSelection())
         return;
     replaceSelected(textCursor(), QString());
+}
+
+// Source text needs no ligatures or kerning, and shaping a long line costs many times
+// more than looking up its glyphs; scripts that need shaping keep it whatever the font.
+void TextEditView::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange && !(font().styleStrategy() & QFont::PreferNoShaping)) {
+        QFont unshaped = font();
+        unshaped.setStyleStrategy(
+            QFont::StyleStrategy(unshaped.styleStrategy() | QFont::PreferNoShaping));
+        setFont(unshaped);
+    }
 }
 
 void TextEditView::keyPressEvent(QKeyEvent* event) {
@@ -209,9 +220,9 @@ void TextEditView::dropEvent(QDropEvent* event) {
 void TextEditView::moveDroppedSelection(int dropPosition) {
     const QTextCursor selection = textCursor();
     const QString& text = m_control.text();
-    const int from = linebreaks::toModelPosition(text, selection.selectionStart());
-    const int to = linebreaks::toModelPosition(text, selection.selectionEnd());
-    const int at = linebreaks::toModelPosition(text, dropPosition);
+    const int from = m_positions.toModelPosition(text, selection.selectionStart());
+    const int to = m_positions.toModelPosition(text, selection.selectionEnd());
+    const int at = m_positions.toModelPosition(text, dropPosition);
     if (at >= from && at <= to)
         return;
     if (at < from)
@@ -224,8 +235,8 @@ void TextEditView::replaceSelected(const QTextCursor& cursor, const QString& pla
     if (!cursor.hasSelection() && plainText.isEmpty())
         return;
     const QString& text = m_control.text();
-    const int start = linebreaks::toModelPosition(text, cursor.selectionStart());
-    const int end = linebreaks::toModelPosition(text, cursor.selectionEnd());
+    const int start = m_positions.toModelPosition(text, cursor.selectionStart());
+    const int end = m_positions.toModelPosition(text, cursor.selectionEnd());
     replaceInModel(start, end - start, linebreaks::toModel(plainText));
 }
 
@@ -245,36 +256,75 @@ void TextEditView::replaceInModel(int start, int length, const QString& text) {
 }
 
 // The control's observer: whatever changed, from the user or from the program, the
-// document is brought to the control's text by the smallest edit, then the selection.
-void TextEditView::showControl() {
-    if (m_mirroring)
+// document follows the control's edit, then its selection.
+void TextEditView::showControl(const TextChange& change) {
+    // A document out of step is shown anew from the control's text in a moment.
+    if (m_resyncPending)
         return;
     QScopedValueRollback showing(m_showing, true);
-    if (m_control.text() != m_shown) {
-        applyToDocument(m_shown, m_control.text());
-        m_shown = m_control.text();
-    }
-    showSelection();
+    if (change.changesText())
+        applyToDocument(change);
+    // The editor already shows the selection it hands to the control.
+    if (!m_mirroring)
+        showSelection();
 }
 
-void TextEditView::applyToDocument(const QString& before, const QString& after) {
-    const linebreaks::Replacement change = linebreaks::difference(before, after);
-    if (change.start == 0 && change.removed == before.size()) {
-        setPlainText(linebreaks::toDocument(after));
+// The edit goes to the document as the smallest replacement of whole breaks, since
+// the control's edit may cut a CR LF pair that the document shows as one character.
+// Only the edit and one character on either side of it are read, so a keystroke
+// costs the same anywhere in the text.
+void TextEditView::applyToDocument(const TextChange& change) {
+    const QString& text = m_control.text();
+    const int from = std::max(change.start - 1, 0);
+    const int end = change.start + change.inserted;
+    const int to = int(std::min<qsizetype>(end + 1, text.size()));
+    const QString before =
+        text.mid(from, change.start - from) + change.removed + text.mid(end, to - end);
+    const linebreaks::Replacement edit =
+        linebreaks::difference(before, QStringView(text).sliced(from, to - from));
+    const int start = from + edit.start;
+    if (edit.removed == 0 && edit.inserted.isEmpty())
+        return;
+    if (start == 0 && edit.removed == text.size() - change.inserted + change.removed.size()) {
+        showText();
         return;
     }
+    const int documentStart = m_positions.toDocumentPosition(text, start);
+    const qsizetype documentRemoved =
+        linebreaks::toDocument(QStringView(before).sliced(edit.start, edit.removed)).size();
     QTextCursor cursor(document());
-    cursor.setPosition(linebreaks::toDocumentPosition(before, change.start));
-    cursor.setPosition(linebreaks::toDocumentPosition(before, change.start + change.removed),
-                       QTextCursor::KeepAnchor);
-    cursor.insertText(linebreaks::toDocument(change.inserted));
+    cursor.setPosition(documentStart);
+    cursor.setPosition(int(documentStart + documentRemoved), QTextCursor::KeepAnchor);
+    const QString inserted = linebreaks::toDocument(edit.inserted);
+    cursor.insertText(inserted);
+    m_positions.replaced(text, start, edit.removed, int(edit.inserted.size()));
+    keepGlyphsOfLongLines(documentStart, int(documentStart + inserted.size()));
+}
+
+// The whole text anew, when it all changed or the document went its own way.
+void TextEditView::showText() {
+    m_positions.reset(m_control.text());
+    setPlainText(linebreaks::toDocument(m_control.text()));
+    keepGlyphsOfLongLines(0, document()->characterCount());
+}
+
+// A line's layout forgets its glyphs once laid out, so every caret query and repaint
+// shapes the whole line again: nothing for a short line, most of a keystroke's cost
+// for a line of a hundred thousand characters. Long lines keep theirs.
+void TextEditView::keepGlyphsOfLongLines(int from, int to) {
+    constexpr int kLongLine = 1000;
+    for (QTextBlock block = document()->findBlock(from); block.isValid() && block.position() <= to;
+         block = block.next()) {
+        if (block.length() > kLongLine)
+            block.layout()->setCacheEnabled(true);
+    }
 }
 
 void TextEditView::showSelection() {
     const QString& text = m_control.text();
-    const int start = linebreaks::toDocumentPosition(text, m_control.selStart());
+    const int start = m_positions.toDocumentPosition(text, m_control.selStart());
     const int end =
-        linebreaks::toDocumentPosition(text, m_control.selStart() + m_control.selLength());
+        m_positions.toDocumentPosition(text, m_control.selStart() + m_control.selLength());
     QTextCursor cursor = textCursor();
     // The same range keeps the direction the user selected it in.
     if (cursor.selectionStart() == start && cursor.selectionEnd() == end)
@@ -291,8 +341,8 @@ void TextEditView::mirrorSelection() {
         return;
     const QTextCursor cursor = textCursor();
     const QString& text = m_control.text();
-    const int start = linebreaks::toModelPosition(text, cursor.selectionStart());
-    const int end = linebreaks::toModelPosition(text, cursor.selectionEnd());
+    const int start = m_positions.toModelPosition(text, cursor.selectionStart());
+    const int end = m_positions.toModelPosition(text, cursor.selectionEnd());
     if (start == m_control.selStart() && end - start == m_control.selLength())
         return;
     QScopedValueRollback mirroring(m_mirroring, true);
@@ -312,8 +362,7 @@ void TextEditView::documentChangedBehindUs() {
         [this] {
             m_resyncPending = false;
             QScopedValueRollback showing(m_showing, true);
-            m_shown = m_control.text();
-            setPlainText(linebreaks::toDocument(m_shown));
+            showText();
             showSelection();
         },
         Qt::QueuedConnection);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "linebreaks.h"
 #include "textcontrol.h"
 
 #include <QPlainTextEdit>
@@ -26,6 +27,7 @@ public:
     void deleteSelection();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
@@ -41,15 +43,17 @@ private:
     void deleteBackward();
     void moveDroppedSelection(int dropPosition);
 
-    void showControl();
-    void applyToDocument(const QString& before, const QString& after);
+    void showControl(const TextChange& change);
+    void applyToDocument(const TextChange& change);
+    void showText();
+    void keepGlyphsOfLongLines(int from, int to);
     void showSelection();
     void mirrorSelection();
     void documentChangedBehindUs();
 
     TextControl& m_control;
-    // The control's text as the document shows it now.
-    QString m_shown;
+    // Where the breaks of the control's text lie, for the text the document shows now.
+    linebreaks::PositionMap m_positions;
     // Set while the view itself edits the document or moves its cursor.
     bool m_showing = false;
     // Set while the view puts the editor's selection into the control.

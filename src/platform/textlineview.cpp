@@ -28,7 +28,7 @@ TextLineView::TextLineView(TextControl& control, QWidget* parent)
     connect(this, &QLineEdit::textChanged, this, &TextLineView::userEdited);
     connect(this, &QLineEdit::selectionChanged, this, &TextLineView::mirrorSelection);
     connect(this, &QLineEdit::cursorPositionChanged, this, &TextLineView::mirrorSelection);
-    m_control.setObserver([this] { showControl(); });
+    m_control.setObserver([this](const TextChange&) { showControl(); });
 }
 
 TextLineView::~TextLineView() {

@@ -2,12 +2,45 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <vector>
+
 using namespace zt;
 
 namespace {
 
 QString q(const char* text) {
     return QString::fromLatin1(text);
+}
+
+// The meaning of the positions, walked character by character: the document position
+// of every model position, and the model position of every document position.
+struct NaivePositions {
+    std::vector<int> toDocument;
+    std::vector<int> toModel;
+
+    explicit NaivePositions(const QString& model) {
+        int document = 0;
+        toModel.push_back(0);
+        for (qsizetype i = 0; i < model.size(); ++i) {
+            toDocument.push_back(document);
+            const bool pair = model[i] == u'\r' && i + 1 < model.size() && model[i + 1] == u'\n';
+            if (pair) // between the CR and the LF: behind the break
+                toDocument.push_back(++document), ++i;
+            else
+                ++document;
+            toModel.push_back(int(i + 1));
+        }
+        toDocument.push_back(document);
+    }
+};
+
+QString randomText(std::mt19937& random, int length) {
+    static const char16_t letters[] = u"ab\r\n\r\n\r";
+    QString text;
+    for (int i = 0; i < length; ++i)
+        text += QChar(letters[random() % 7]);
+    return text;
 }
 
 } // namespace
@@ -22,6 +55,8 @@ TEST(TextLineBreaks, TextsTranslateBothWays) {
 TEST(TextLineBreaks, PositionsMapAcrossEveryKindOfBreak) {
     // Model "ab\r\nc\rd\ne\r\n" (11) shows as "ab\nc\nd\ne\n" (9).
     const QString model = q("ab\r\nc\rd\ne\r\n");
+    linebreaks::PositionMap map;
+    map.reset(model);
     struct Case {
         int modelPosition;
         int documentPosition;
@@ -29,14 +64,45 @@ TEST(TextLineBreaks, PositionsMapAcrossEveryKindOfBreak) {
     const Case toDocument[] = {{0, 0}, {2, 2}, {3, 3},  {4, 3},  {5, 4},  {6, 5},
                                {8, 7}, {9, 8}, {10, 9}, {11, 9}, {40, 9}, {-3, 0}};
     for (const Case& c : toDocument)
-        EXPECT_EQ(linebreaks::toDocumentPosition(model, c.modelPosition), c.documentPosition)
+        EXPECT_EQ(map.toDocumentPosition(model, c.modelPosition), c.documentPosition)
             << c.modelPosition;
     // Back from the document a break is never split: 3 is behind the CR LF.
     const Case toModel[] = {{0, 0}, {2, 2}, {4, 3},  {5, 4},   {6, 5},
                             {8, 7}, {9, 8}, {11, 9}, {11, 30}, {0, -1}};
     for (const Case& c : toModel)
-        EXPECT_EQ(linebreaks::toModelPosition(model, c.documentPosition), c.modelPosition)
+        EXPECT_EQ(map.toModelPosition(model, c.documentPosition), c.modelPosition)
             << c.documentPosition;
+}
+
+// Edits of every size anywhere, many cutting or making CR LF pairs, with pieces so
+// short that most edits meet a cut of the map: after each one every position must
+// still map as a walk of the text says.
+TEST(TextLineBreaks, PositionMapFollowsEditsAsAWalkOfTheText) {
+    const std::pair<int, int> piecesAndLength[] = {
+        {1, 200}, {3, 1000}, {8, 3000}, {64, 8000}, {linebreaks::PositionMap::kPieceLength, 30000}};
+    for (const auto& [pieceLength, length] : piecesAndLength) {
+        SCOPED_TRACE(pieceLength);
+        std::mt19937 random(pieceLength);
+        QString text = randomText(random, length);
+        linebreaks::PositionMap map(pieceLength);
+        map.reset(text);
+        for (int edit = 0; edit < 200; ++edit) {
+            const int start = int(random() % (text.size() + 1));
+            const int longest = edit % 10 == 0 ? length / 3 : 3;
+            const int removed =
+                int(std::min<qsizetype>(random() % (longest + 1), text.size() - start));
+            const QString inserted = randomText(random, int(random() % (longest + 1)));
+            text.replace(start, removed, inserted);
+            map.replaced(text, start, removed, int(inserted.size()));
+
+            const NaivePositions want(text);
+            for (int p = 0; p <= text.size(); p += 1 + int(random() % 97))
+                ASSERT_EQ(map.toDocumentPosition(text, p), want.toDocument[p]) << edit << " " << p;
+            for (int d = 0; d < int(want.toModel.size()); d += 1 + int(random() % 97))
+                ASSERT_EQ(map.toModelPosition(text, d), want.toModel[d]) << edit << " " << d;
+            ASSERT_EQ(map.toModelPosition(text, int(want.toModel.size()) + 5), text.size());
+        }
+    }
 }
 
 // The replacement must rebuild the new text, and the same replacement carried to the
@@ -59,8 +125,9 @@ TEST(TextLineBreaks, DifferenceMapsOntoWholeBreaks) {
         SCOPED_TRACE((before + QStringLiteral(" -> ") + after).toStdString());
         EXPECT_EQ(QString(before).replace(change.start, change.removed, change.inserted), after);
 
-        const int from = linebreaks::toDocumentPosition(before, change.start);
-        const int to = linebreaks::toDocumentPosition(before, change.start + change.removed);
+        const NaivePositions positions(before);
+        const int from = positions.toDocument[change.start];
+        const int to = positions.toDocument[change.start + change.removed];
         EXPECT_EQ(linebreaks::toDocument(before).replace(from, to - from,
                                                          linebreaks::toDocument(change.inserted)),
                   linebreaks::toDocument(after));

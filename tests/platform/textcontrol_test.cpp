@@ -113,8 +113,15 @@ TEST_F(TextControlTest, FailureInHandlerLeavesTextChangedAndStopsTheLaterHandler
     EXPECT_EQ(box.selStart(), 5);
 }
 
+// The observer also learns what each assignment replaced: [start removed>inserted].
 TEST_F(TextControlTest, ObserverHearsEveryChangeFirstThenHandlersRunInOrderAndNest) {
-    box.setObserver([&] { changes << "observer" + state(); });
+    box.setObserver([&](const TextChange& change) {
+        const QString edit = QStringLiteral(" [%1 %2>%3]")
+                                 .arg(change.start)
+                                 .arg(change.removed)
+                                 .arg(change.inserted);
+        changes << "observer" + state() + (change.changesText() ? edit : QString());
+    });
     // A second handler that trims a trailing space assigns again, inside the first change.
     box.addChangeHandler([&] {
         if (box.text().endsWith(u' '))
@@ -124,7 +131,7 @@ TEST_F(TextControlTest, ObserverHearsEveryChangeFirstThenHandlersRunInOrderAndNe
     box.setSelStart(1);
     box.setSelLength(1);
     box.setSelText(q("X"));
-    EXPECT_EQ(changes,
-              QStringList({q("observer 0/0"), q("ab  0/0"), q("observer 0/0"), q("ab 0/0"),
-                           q("observer 1/0"), q("observer 1/1"), q("observer 2/0"), q("aX 2/0")}));
+    EXPECT_EQ(changes, QStringList({q("observer 0/0 [0 >3]"), q("ab  0/0"),
+                                    q("observer 0/0 [0 ab >2]"), q("ab 0/0"), q("observer 1/0"),
+                                    q("observer 1/1"), q("observer 2/0 [1 b>1]"), q("aX 2/0")}));
 }

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <vector>
 
 using namespace zt;
@@ -203,6 +204,33 @@ TEST_F(TextEditViewTest, KeystrokeInLargeTextIsAppliedInPlace) {
     EXPECT_EQ(box.text().mid(line.size() * 10 - 2, 4), q("\r\nzT"));
     EXPECT_EQ(view.document()->findBlockByNumber(10).text(), QString(u'z' + line.chopped(2)));
     EXPECT_EQ(view.textCursor().position(), far.document()->findBlockByNumber(10).position() + 1);
+}
+
+// Edits anywhere in a text of many pieces, many of them cutting or joining a CR LF
+// pair, from the program and from the keyboard in turn: the editor must show the
+// control's text, and its caret the control's, after every one.
+TEST_F(TextEditViewTest, EditsAnywhereKeepEditorAndControlInStep) {
+    std::mt19937 random(5);
+    const auto randomText = [&](int length) {
+        static const char letters[] = "ab\r\n\r\n";
+        QString text;
+        for (int i = 0; i < length; ++i)
+            text += QChar::fromLatin1(letters[random() % 6]);
+        return text;
+    };
+    const Qt::Key keys[] = {Qt::Key_X, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Return};
+    box.setText(randomText(20000));
+    for (int edit = 0; edit < 200; ++edit) {
+        box.setSelStart(int(random() % (box.text().size() + 1)));
+        box.setSelLength(int(random() % 6));
+        if (edit % 2 == 0)
+            box.setSelText(randomText(int(random() % 6)));
+        else
+            QTest::keyClick(&view, keys[random() % 4]);
+        ASSERT_EQ(view.toPlainText(), linebreaks::toDocument(box.text())) << edit;
+        const QString beforeCaret = box.text().left(box.selStart() + box.selLength());
+        ASSERT_EQ(view.textCursor().position(), linebreaks::toDocument(beforeCaret).size()) << edit;
+    }
 }
 
 TEST_F(TextEditViewTest, DroppedAndComposedTextAreOneChangeEach) {

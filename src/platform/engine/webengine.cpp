@@ -236,16 +236,18 @@ bool WebPageEngine::selectText(const QString& text) {
 }
 
 bool WebPageEngine::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_view && event->type() == QEvent::ChildAdded) {
+    // The event's type is asked first: while the view dies its children leave it, and
+    // by then it is no longer a view that a guarded pointer may be read as.
+    if (event->type() == QEvent::ChildAdded && watched == m_view) {
         QTimer::singleShot(0, this, &WebPageEngine::watchInput);
-    } else if (watched == m_inputWidget && event->type() == QEvent::KeyPress) {
+    } else if (event->type() == QEvent::KeyPress && watched == m_inputWidget) {
         const QString text = static_cast<QKeyEvent*>(event)->text();
         // Character keys only, Enter among them, as a page's keypress event has it.
         if (onKeyPress && !text.isEmpty() && (text[0].isPrint() || text[0] == u'\r')) {
             const QChar key = text[0];
             Guard::run([&] { onKeyPress(key); });
         }
-    } else if (watched == m_inputWidget && event->type() == QEvent::MouseMove) {
+    } else if (event->type() == QEvent::MouseMove && watched == m_inputWidget) {
         if (onMouseMove)
             Guard::run([&] { onMouseMove(); });
     }
