@@ -1,7 +1,8 @@
 #include "guard.h"
 
+#include "qtservices.h"
+
 #include <QApplication>
-#include <QMessageBox>
 
 #include <cstdio>
 #include <cstdlib>
@@ -14,9 +15,7 @@ int g_depth = 0;
 
 void defaultEnding(const RuntimeFailure& failure) {
     if (qobject_cast<QApplication*>(QCoreApplication::instance())) {
-        QMessageBox box(QMessageBox::Critical, QCoreApplication::applicationName(),
-                        Guard::boxText(failure), QMessageBox::Ok);
-        box.exec();
+        showMessageBox(Guard::boxText(failure), vbCritical, QCoreApplication::applicationName());
     } else {
         std::fprintf(stderr, "%s\n", failure.what());
     }
