@@ -12,6 +12,7 @@ namespace zt {
 namespace {
 
 int g_depth = 0;
+quint64 g_event = 0;
 
 void defaultEnding(const RuntimeFailure& failure) {
     if (qobject_cast<QApplication*>(QCoreApplication::instance())) {
@@ -32,7 +33,10 @@ Guard::Ending g_ending = defaultEnding;
 Guard::ProcessEnd g_processEnd = defaultProcessEnd;
 
 struct DepthScope {
-    DepthScope() { ++g_depth; }
+    DepthScope() {
+        if (g_depth++ == 0)
+            ++g_event;
+    }
     ~DepthScope() { --g_depth; }
 };
 
@@ -69,6 +73,10 @@ void Guard::restoreDefaults() {
 
 int Guard::depth() {
     return g_depth;
+}
+
+quint64 Guard::currentEvent() {
+    return g_depth > 0 ? g_event : 0;
 }
 
 void Guard::endProcess() {
