@@ -187,3 +187,21 @@ TEST(CommandMap, PopupButtonsOpenTheirMenusAtThePointer) {
         p.menu->menu()->hide();
     }
 }
+
+TEST(CommandMap, CheckMarksChangeOnlyWhereTheProgramSetsThem) {
+    Views v;
+    const struct {
+        QAction* item;
+        int clicks;
+        bool checked;
+    } cases[] = {
+        {v.zelvo.ui.mnuEditor, 1, true}, // fixed marks stay
+        {v.tessara.ui.mnuTessara, 1, true},
+        {v.tessara.ui.mnuEnableStartUp, 2, true}, // its handler sets it: off, then on
+    };
+    for (const auto& c : cases) {
+        for (int i = 0; i < c.clicks; ++i)
+            c.item->trigger();
+        EXPECT_EQ(c.item->isChecked(), c.checked) << c.item->objectName().toStdString();
+    }
+}
