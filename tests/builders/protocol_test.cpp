@@ -65,7 +65,7 @@ TEST(Protocol, ColourButtonOfAColourList) {
         {"black empties the list's text", {0}, ""},
         {"cancel on first use empties it too", {std::nullopt}, ""},
         {"a colour", {0x00FF00}, "#00FF00"},
-        {"a cancel takes the earlier colour again", {15, std::nullopt}, "#0F0000"},
+        {"a cancel takes the earlier colour again", {0x0000FF, std::nullopt}, "#FF0000"},
     };
     for (const auto& c : cases) {
         ScriptedPickers pickers;

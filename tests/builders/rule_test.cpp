@@ -127,7 +127,6 @@ TEST(Rule, ColourButton) {
         {"black is nothing taken", {0}, "typed", false},
         {"cancel on first use", {std::nullopt}, "typed", false},
         {"red", {255}, "#FF0000", true},
-        {"padding keeps six digits", {15}, "#0F0000", true},
         {"a cancel takes the earlier colour again", {0x00FF00, std::nullopt}, "#00FF00", true},
     };
     for (const auto& c : cases) {
