@@ -26,16 +26,20 @@ TEST(VisualFile, OpenOnDirtyAnsweredYesSavesAndLosesThePath) {
     EXPECT_TRUE(v.program.failures.empty());
 }
 
-TEST(VisualFile, OpenLoadsThePageAndRecordsThePath) {
-    Views v;
-    const QString path = v.file("page.html", "<HTML><BODY><P>opened</P></BODY></HTML>");
-    v.program.pickers.files = {path};
-    v.run([&] { v.tessara.mnuOpen(); });
-    EXPECT_TRUE(v.txtComp().documentHTML().contains("opened"));
-    EXPECT_EQ(v.tag(), path);
-    EXPECT_EQ(v.fileName(), "");
-    EXPECT_EQ(v.tessara.caption(), "Zelvo Tessara: By Orvek - () " + path);
-    EXPECT_EQ(v.program.pickers.asked[0].file.defaultExt, "html");
+// Open and Recent load the page and record its path; only Open clears the name.
+TEST(VisualFile, OpenAndRecentLoadThePageAndRecordThePath) {
+    for (const bool recent : {false, true}) {
+        Views v;
+        const QString path = v.file("page.html", "<HTML><BODY><P>opened</P></BODY></HTML>");
+        v.tag() = v.program.scratch("previous.html");
+        v.program.pickers.files = {path};
+        v.tessara.ui.recent[1]->setText(path);
+        (recent ? v.tessara.ui.recent[1] : v.tessara.ui.mnuOpen)->trigger();
+        EXPECT_TRUE(v.txtComp().documentHTML().contains("opened"));
+        EXPECT_EQ(v.tag(), path);
+        EXPECT_EQ(v.fileName(), recent ? path : "");
+        EXPECT_EQ(v.tessara.caption(), "Zelvo Tessara: By Orvek - () " + path);
+    }
 }
 
 TEST(VisualFile, SaveRewritesTheSourceBufferWithTheGeneratorRuleOnly) {
@@ -57,18 +61,6 @@ TEST(VisualFile, SaveRewritesTheSourceBufferWithTheGeneratorRuleOnly) {
     EXPECT_EQ(written, v.area().text() + "\r\n") << "the source buffer is what was written";
     EXPECT_EQ(v.star(), "");
     EXPECT_TRUE(v.tessara.caption().startsWith("Zelvo Tessara: By Orvek - () "));
-}
-
-TEST(VisualFile, RecentLoadsThePageAndTakesItsPath) {
-    Views v;
-    const QString other = v.file("other.html", "<HTML><BODY><P>other</P></BODY></HTML>");
-    v.tag() = v.program.scratch("previous.html");
-    v.tessara.ui.recent[1]->setText(other);
-    v.tessara.ui.recent[1]->trigger();
-    EXPECT_TRUE(v.txtComp().documentHTML().contains("other"));
-    EXPECT_EQ(v.fileName(), other);
-    EXPECT_EQ(v.tag(), other);
-    EXPECT_EQ(v.tessara.caption(), "Zelvo Tessara: By Orvek - () " + other);
 }
 
 TEST(VisualFile, SaveWithoutAPathCancelledBeforeCancelErrorWasSetChangesNothing) {
