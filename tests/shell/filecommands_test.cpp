@@ -13,6 +13,14 @@ namespace {
 
 const QString kUntitledZelvo = "Zelvo Tessara: By Orvek - () Untitled";
 
+// The question a click asks, answered No, as text|title|kind.
+QString firstQuestion(Views& v, QAction* item) {
+    v.program.prompts.answers = {vbNo};
+    item->trigger();
+    const Question& q = v.program.prompts.asked.at(0);
+    return q.text + '|' + q.title + '|' + QString::number(q.style);
+}
+
 } // namespace
 
 TEST(SourceFile, NewOnDirtyAnsweredNoGivesTheBlankPage) {
@@ -233,12 +241,7 @@ TEST(SourceFile, TheProgramsOwnTextsStandAsDesigned) {
         {"the source view's first caption", [](Views& v) { return v.zelvo.caption(); },
          "Untitled(): Zelvo - By Orvek"},
         {"the visual view's New question, title and kind",
-         [](Views& v) {
-             v.program.prompts.answers = {vbNo};
-             v.tessara.ui.mnuNew->trigger();
-             const Question& q = v.program.prompts.asked.at(0);
-             return q.text + '|' + q.title + '|' + QString::number(q.style);
-         },
+         [](Views& v) { return firstQuestion(v, v.tessara.ui.mnuNew); },
          "Are you sure you want to close existing document?|Assistant: Zelvo|" +
              QString::number(vbYesNo | vbQuestion | vbDefaultButton2)},
         {"the file filter",
@@ -249,12 +252,7 @@ TEST(SourceFile, TheProgramsOwnTextsStandAsDesigned) {
          },
          "HTML Files (*.html)|*.html|HTM Files (*.htm)|*.htm"},
         {"Exit's question, title and kind, No the default",
-         [](Views& v) {
-             v.program.prompts.answers = {vbNo};
-             v.tessara.ui.mnuExit->trigger();
-             const Question& q = v.program.prompts.asked.at(0);
-             return q.text + '|' + q.title + '|' + QString::number(q.style);
-         },
+         [](Views& v) { return firstQuestion(v, v.tessara.ui.mnuExit); },
          "Are you sure you want to exit?|Confirm Exit: Zelvo Tessara|" +
              QString::number(vbYesNo | vbQuestion | vbDefaultButton2)},
     };
