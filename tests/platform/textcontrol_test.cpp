@@ -1,4 +1,3 @@
-#include "platform/guard.h"
 #include "platform/runtimefailure.h"
 #include "platform/textcontrol.h"
 
@@ -128,23 +127,4 @@ TEST_F(TextControlTest, ObserverHearsEveryChangeFirstThenHandlersRunInOrderAndNe
     EXPECT_EQ(changes,
               QStringList({q("observer 0/0"), q("ab  0/0"), q("observer 0/0"), q("ab 0/0"),
                            q("observer 1/0"), q("observer 1/1"), q("observer 2/0"), q("aX 2/0")}));
-}
-
-TEST_F(TextControlTest, UndoTakesBackWhatOneEventDidAsOneChange) {
-    box.setText(q("a word"));
-    Guard::run([&] { // one command, two edits
-        box.setSelStart(2);
-        box.setSelText(q("<B>"));
-        box.setSelStart(9);
-        box.setSelText(q("</B>"));
-    });
-    box.setSelStart(0);
-    box.setSelText(q(">")); // outside any event: a step of its own
-    changes.clear();
-    box.undo();
-    box.undo();
-    box.undo(); // nothing left: no change
-    box.redo();
-    EXPECT_EQ(changes,
-              QStringList({q("a <B>word</B> 0/0"), q("a word 6/0"), q("a <B>word</B> 13/0")}));
 }
