@@ -1,7 +1,8 @@
 #include "guard.h"
 
+#include "qtservices.h"
+
 #include <QApplication>
-#include <QMessageBox>
 
 #include <cstdio>
 #include <cstdlib>
@@ -11,12 +12,11 @@ namespace zt {
 namespace {
 
 int g_depth = 0;
+quint64 g_event = 0;
 
 void defaultEnding(const RuntimeFailure& failure) {
     if (qobject_cast<QApplication*>(QCoreApplication::instance())) {
-        QMessageBox box(QMessageBox::Critical, QCoreApplication::applicationName(),
-                        Guard::boxText(failure), QMessageBox::Ok);
-        box.exec();
+        showMessageBox(Guard::boxText(failure), vbCritical, QCoreApplication::applicationName());
     } else {
         std::fprintf(stderr, "%s\n", failure.what());
     }
@@ -48,7 +48,10 @@ void endByFailure(const RuntimeFailure& failure) {
 }
 
 struct DepthScope {
-    DepthScope() { ++g_depth; }
+    DepthScope() {
+        if (g_depth++ == 0)
+            ++g_event;
+    }
     ~DepthScope() { --g_depth; }
 };
 
@@ -90,6 +93,10 @@ void Guard::restoreDefaults() {
 
 int Guard::depth() {
     return g_depth;
+}
+
+quint64 Guard::currentEvent() {
+    return g_depth > 0 ? g_event : 0;
 }
 
 void Guard::endProcess() {

@@ -34,6 +34,9 @@ public:
     // How many guarded bodies are running now (more than one while a synchronous
     // wait lets events through).
     static int depth();
+    // A number for the outermost event whose program code runs now, new with each
+    // event; 0 outside any. The edits of one command share it.
+    static quint64 currentEvent();
 
     // Ends the process at once. In tests the installed ProcessEnd records it and the
     // current guarded body is abandoned, so no statement after it runs.

@@ -67,16 +67,16 @@ template <class F> void buildMenus(F& form, QMenuBar& bar, const std::vector<Men
             if (row.state & SeparatorBefore)
                 menu->addSeparator();
             action = menu->addAction(QString::fromUtf8(row.caption));
-            if (row.handler) {
-                QObject::connect(action, &QAction::triggered, action,
-                                 guarded([&form, action, h = row.handler](bool) {
-                                     // A check mark is the handler's to set, as on
-                                     // the program's menus: undo Qt's own toggle.
-                                     if (action->isCheckable())
-                                         action->setChecked(!action->isChecked());
+            QObject::connect(action, &QAction::triggered, action,
+                             guarded([&form, action, h = row.handler](bool) {
+                                 // A check mark is the handler's to set, as on the
+                                 // program's menus, and a fixed mark stays: undo Qt's
+                                 // own toggle, with or without a handler.
+                                 if (action->isCheckable())
+                                     action->setChecked(!action->isChecked());
+                                 if (h)
                                      (form.*h)();
-                                 }));
-            }
+                             }));
         }
         action->setObjectName(QString::fromLatin1(row.name));
         if (*row.key)

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPrintDialog>
@@ -26,6 +27,40 @@ QString titleOrDefault(const QString& title) {
 QWidget* activeWindow() {
     return QApplication::activeWindow();
 }
+
+// A box of the program comes in front of every window of the program, the
+// top-most dialogs included, and takes the input until it is answered.
+void inFront(QWidget& box) {
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.setWindowModality(Qt::ApplicationModal);
+}
+
+// A question with Yes and No and no Cancel must be answered: Escape and the
+// frame's close button would otherwise pick No for the user.
+class MessageBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+    bool mustAnswer = false;
+
+protected:
+    void showEvent(QShowEvent* event) override {
+        QMessageBox::showEvent(event);
+        raise();
+        activateWindow();
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (mustAnswer && event->matches(QKeySequence::Cancel))
+            return;
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (mustAnswer) {
+            event->ignore();
+            return;
+        }
+        QMessageBox::closeEvent(event);
+    }
+};
 
 QMessageBox::Icon iconOf(int style) {
     switch (style & 0x70) {
@@ -68,9 +103,14 @@ QStringList qtNameFilters(const QString& filter) {
 }
 
 int QtPrompts::msgBox(const QString& text, int style, const QString& title) {
-    QMessageBox box(iconOf(style), titleOrDefault(title), text, QMessageBox::NoButton,
-                    activeWindow());
+    return showMessageBox(text, style, titleOrDefault(title));
+}
+
+int showMessageBox(const QString& text, int style, const QString& title) {
+    MessageBox box(iconOf(style), title, text, QMessageBox::NoButton, activeWindow());
+    inFront(box);
     const int buttons = style & 0x7;
+    box.mustAnswer = buttons == vbYesNo;
     QList<QMessageBox::StandardButton> order;
     switch (buttons) {
     case vbOKCancel:
@@ -105,15 +145,18 @@ int QtPrompts::msgBox(const QString& text, int style, const QString& title) {
 
 QString QtPrompts::inputBox(const QString& prompt, const QString& title,
                             const QString& defaultText) {
-    bool ok = false;
-    const QString text = QInputDialog::getText(activeWindow(), titleOrDefault(title), prompt,
-                                               QLineEdit::Normal, defaultText, &ok);
-    return ok ? text : QString();
+    QInputDialog dialog(activeWindow());
+    inFront(dialog);
+    dialog.setWindowTitle(titleOrDefault(title));
+    dialog.setLabelText(prompt);
+    dialog.setTextValue(defaultText);
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
 std::optional<QString> QtPickers::openFile(const FileDialogRequest& request) {
     QFileDialog dialog(activeWindow(),
                        request.title.isEmpty() ? QObject::tr("Open") : request.title);
+    inFront(dialog);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(qtNameFilters(request.filter));
@@ -127,6 +170,7 @@ std::optional<QString> QtPickers::openFile(const FileDialogRequest& request) {
 std::optional<QString> QtPickers::saveFile(const FileDialogRequest& request) {
     QFileDialog dialog(activeWindow(),
                        request.title.isEmpty() ? QObject::tr("Save As") : request.title);
+    inFront(dialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setNameFilters(qtNameFilters(request.filter));
     QString ext = request.defaultExt;
@@ -141,15 +185,17 @@ std::optional<QString> QtPickers::saveFile(const FileDialogRequest& request) {
 }
 
 std::optional<quint32> QtPickers::color(quint32 initial) {
-    const QColor chosen = QColorDialog::getColor(fromBgr(initial), activeWindow());
-    if (!chosen.isValid())
+    QColorDialog dialog(fromBgr(initial), activeWindow());
+    inFront(dialog);
+    if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return toBgr(chosen);
+    return toBgr(dialog.selectedColor());
 }
 
 bool QtPickers::printer() {
     QPrinter printer;
     QPrintDialog dialog(&printer, activeWindow());
+    inFront(dialog);
     return dialog.exec() == QDialog::Accepted;
 }
 

@@ -45,6 +45,11 @@ public:
     void beep() override;
 };
 
+// The program's message box, with the run time's style and answer numbers. It comes
+// in front of every window of the program, top-most ones included, and a Yes/No
+// question without Cancel stays up until Yes or No is clicked.
+int showMessageBox(const QString& text, int style, const QString& title);
+
 // "HTML Files (*.html)|*.html|HTM Files (*.htm)|*.htm" as Qt's name filters.
 QStringList qtNameFilters(const QString& filter);
 

@@ -1,5 +1,6 @@
 #include "textcontrol.h"
 
+#include "guard.h"
 #include "runtimefailure.h"
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 namespace zt {
 
 void TextControl::setText(const QString& text) {
+    m_history.clear();
     const TextChange change{0, std::exchange(m_text, text), int(text.size())};
     m_selStart = 0;
     m_selLength = 0;
@@ -35,9 +37,33 @@ QString TextControl::selText() const {
 }
 
 void TextControl::setSelText(const QString& text) {
-    const TextChange change{m_selStart, selText(), int(text.size())};
-    m_text.replace(m_selStart, m_selLength, text);
-    m_selStart += text.size();
+    replaceSelection(text, false);
+}
+
+void TextControl::typeSelText(const QString& text) {
+    replaceSelection(text, true);
+}
+
+void TextControl::replaceSelection(const QString& text, bool typed) {
+    const TextEdit edit{m_selStart, selText(), text};
+    m_history.record(m_text, edit, typed, Guard::currentEvent());
+    apply(edit);
+}
+
+void TextControl::undo() {
+    if (const auto edit = m_history.undo())
+        apply(*edit);
+}
+
+void TextControl::redo() {
+    if (const auto edit = m_history.redo())
+        apply(*edit);
+}
+
+void TextControl::apply(const TextEdit& edit) {
+    const TextChange change{edit.start, edit.removed, int(edit.inserted.size())};
+    m_text.replace(edit.start, edit.removed.size(), edit.inserted);
+    m_selStart = edit.start + int(edit.inserted.size());
     m_selLength = 0;
     notifyObserver(change);
     fireChange();

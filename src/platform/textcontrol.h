@@ -1,5 +1,7 @@
 #pragma once
 
+#include "edithistory.h"
+
 #include <QString>
 
 #include <functional>
@@ -28,7 +30,8 @@ public:
     using Observer = std::function<void(const TextChange& change)>;
 
     const QString& text() const { return m_text; }
-    // Replaces the whole text; the caret goes to 0. Fires Change.
+    // Replaces the whole text; the caret goes to 0. Fires Change. The history of
+    // edits starts afresh.
     void setText(const QString& text);
 
     int selStart() const { return m_selStart; }
@@ -42,6 +45,17 @@ public:
     QString selText() const;
     // Replaces the selection; the caret goes behind the new text. Fires Change.
     void setSelText(const QString& text);
+    // The same for text the user typed: a run of it is one step of the history.
+    void typeSelText(const QString& text);
+
+    // Takes the last step of the history back, or does the last undone one again,
+    // each as one edit that fires Change once, with the caret behind what it put in.
+    // Nothing to undo or redo does nothing. A step is what one event did to the
+    // text, or a run of typing.
+    void undo();
+    void redo();
+    bool canUndo() const { return m_history.canUndo(); }
+    bool canRedo() const { return m_history.canRedo(); }
 
     // A free value a form may keep with the control.
     QString tag;
@@ -54,6 +68,8 @@ public:
     void setObserver(Observer observer) { m_observer = std::move(observer); }
 
 private:
+    void replaceSelection(const QString& text, bool typed);
+    void apply(const TextEdit& edit);
     void fireChange();
     // Every change of the text must say what it replaced, or a view falls out of step.
     void notifyObserver(const TextChange& change);
@@ -61,6 +77,7 @@ private:
     QString m_text;
     int m_selStart = 0;
     int m_selLength = 0;
+    EditHistory m_history;
     std::vector<Handler> m_changeHandlers;
     Observer m_observer;
 };

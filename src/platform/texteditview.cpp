@@ -3,6 +3,7 @@
 #include "guard.h"
 #include "linebreaks.h"
 
+#include <QAction>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
@@ -16,6 +17,22 @@
 #include <algorithm>
 
 namespace zt {
+
+namespace {
+
+bool isUndoKey(const QKeyEvent* event) {
+    return event->matches(QKeySequence::Undo) ||
+           event->keyCombination() == QKeyCombination(Qt::ControlModifier, Qt::Key_Z);
+}
+
+bool isRedoKey(const QKeyEvent* event) {
+    const QKeyCombination pressed = event->keyCombination();
+    return event->matches(QKeySequence::Redo) ||
+           pressed == QKeyCombination(Qt::ControlModifier, Qt::Key_Y) ||
+           pressed == QKeyCombination(Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_Z);
+}
+
+} // namespace
 
 TextEditView::TextEditView(TextControl& control, QWidget* parent)
     : QPlainTextEdit(parent), m_control(control) {
@@ -65,8 +82,31 @@ void TextEditView::changeEvent(QEvent* event) {
     }
 }
 
+// The commands of the window the editor sits in take their keys before the
+// editor's own bindings do: Ctrl+A is the program's Select All, not the widget's.
+bool TextEditView::isCommandKey(const QKeyEvent* event) const {
+    const QKeySequence pressed(
+        QKeyCombination(event->modifiers() & ~Qt::KeypadModifier, Qt::Key(event->key())));
+    const QList<QAction*> actions = window()->findChildren<QAction*>();
+    return std::any_of(actions.begin(), actions.end(), [&](const QAction* action) {
+        return action->shortcuts().contains(pressed);
+    });
+}
+
+bool TextEditView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && isCommandKey(static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return true;
+    }
+    return QPlainTextEdit::event(event);
+}
+
 void TextEditView::keyPressEvent(QKeyEvent* event) {
     event->accept();
+    // A command's key arrives here only while its item is disabled, and then it
+    // does nothing.
+    if (isCommandKey(event))
+        return;
     if (isReadOnly() || !handleEditingKey(event))
         QPlainTextEdit::keyPressEvent(event);
 }
@@ -88,8 +128,10 @@ bool TextEditView::handleEditingKey(QKeyEvent* event) {
         cutSelection();
     } else if (event->matches(QKeySequence::Paste)) {
         paste();
-    } else if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo)) {
-        // Nothing to undo: the control keeps no history.
+    } else if (isRedoKey(event)) {
+        editModel([this] { m_control.redo(); });
+    } else if (isUndoKey(event)) {
+        editModel([this] { m_control.undo(); });
     } else if (event->matches(QKeySequence::DeleteStartOfWord)) {
         deleteUnlessSelected(extendTo(QTextCursor::PreviousWord));
     } else if (event->matches(QKeySequence::DeleteEndOfWord)) {
@@ -117,7 +159,7 @@ bool TextEditView::handleEditingKey(QKeyEvent* event) {
         if (event->key() == Qt::Key_Backtab || (event->modifiers() & ~Qt::KeypadModifier))
             event->ignore();
         else
-            replaceSelected(cursor, QStringLiteral("\t"));
+            replaceSelected(cursor, QStringLiteral("\t"), Typed);
     } else if (event->key() == Qt::Key_Direction_L || event->key() == Qt::Key_Direction_R) {
         // A plain text box has no per-paragraph direction to switch.
     } else {
@@ -127,7 +169,7 @@ bool TextEditView::handleEditingKey(QKeyEvent* event) {
                              ((mods & Qt::ControlModifier) && !(mods & Qt::AltModifier));
         if (text.isEmpty() || !text.front().isPrint() || command)
             return false;
-        replaceSelected(cursor, text);
+        replaceSelected(cursor, text, Typed);
     }
     return true;
 }
@@ -162,7 +204,7 @@ void TextEditView::inputMethodEvent(QInputMethodEvent* event) {
             QTextCursor::KeepAnchor);
     }
     QPointer<TextEditView> self(this);
-    replaceSelected(cursor, event->commitString());
+    replaceSelected(cursor, event->commitString(), Typed);
     if (!self)
         return;
     // What is still being composed stays with the base class: it is drawn, not stored.
@@ -181,6 +223,11 @@ void TextEditView::contextMenuEvent(QContextMenuEvent* event) {
     const bool editable = !isReadOnly();
     const bool selected = textCursor().hasSelection();
     QMenu menu(this);
+    menu.addAction(tr("&Undo"), this, [this] { editModel([this] { m_control.undo(); }); })
+        ->setEnabled(editable && m_control.canUndo());
+    menu.addAction(tr("&Redo"), this, [this] { editModel([this] { m_control.redo(); }); })
+        ->setEnabled(editable && m_control.canRedo());
+    menu.addSeparator();
     menu.addAction(tr("Cu&t"), this, &TextEditView::cutSelection)->setEnabled(editable && selected);
     menu.addAction(tr("&Copy"), this, &QPlainTextEdit::copy)->setEnabled(selected);
     menu.addAction(tr("&Paste"), this, &QPlainTextEdit::paste)->setEnabled(editable && canPaste());
@@ -231,26 +278,36 @@ void TextEditView::moveDroppedSelection(int dropPosition) {
         replaceInModel(from, at - from, text.mid(to, at - to) + text.mid(from, to - from));
 }
 
-void TextEditView::replaceSelected(const QTextCursor& cursor, const QString& plainText) {
+void TextEditView::replaceSelected(const QTextCursor& cursor, const QString& plainText,
+                                   EditKind kind) {
     if (!cursor.hasSelection() && plainText.isEmpty())
         return;
     const QString& text = m_control.text();
     const int start = m_positions.toModelPosition(text, cursor.selectionStart());
     const int end = m_positions.toModelPosition(text, cursor.selectionEnd());
-    replaceInModel(start, end - start, linebreaks::toModel(plainText));
+    replaceInModel(start, end - start, linebreaks::toModel(plainText), kind);
 }
 
-void TextEditView::replaceInModel(int start, int length, const QString& text) {
-    QPointer<TextEditView> self(this);
-    Guard::run([&] {
+void TextEditView::replaceInModel(int start, int length, const QString& text, EditKind kind) {
+    editModel([&] {
         {
             // The editor already shows this selection; only the control learns it.
             QScopedValueRollback mirroring(m_mirroring, true);
             m_control.setSelStart(start);
             m_control.setSelLength(length);
         }
-        m_control.setSelText(text);
+        if (kind == Typed)
+            m_control.typeSelText(text);
+        else
+            m_control.setSelText(text);
     });
+}
+
+// An edit of the user runs the program's Change chain, so it enters program code
+// through the guard like any other event.
+void TextEditView::editModel(const std::function<void()>& edit) {
+    QPointer<TextEditView> self(this);
+    Guard::run(edit);
     if (self)
         ensureCursorVisible();
 }

@@ -12,6 +12,8 @@ namespace zt {
 // affected range followed by one SelText assignment on the control, so the program's
 // Change chain runs once per keystroke, paste or cut. A selection made in the editor
 // is mirrored into SelStart and SelLength without a Change. Enter types CR LF.
+// Ctrl+Z takes back the control's last edit, Ctrl+Y and Ctrl+Shift+Z redo it. A key
+// that a command of the window has is the command's, never the editor's.
 // setReadOnly(true) turns it into a viewer whose text can still be selected.
 // One view per control; the control must outlive it.
 class TextEditView : public QPlainTextEdit {
@@ -28,6 +30,7 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
@@ -35,10 +38,15 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    // Typed text joins the run of typing before it in the control's history.
+    enum EditKind { Other, Typed };
     // Replaces model[start, start + length) with text as the user's edit.
-    void replaceInModel(int start, int length, const QString& text);
-    // Replaces what the cursor selects (document positions) with text typed by the user.
-    void replaceSelected(const QTextCursor& cursor, const QString& plainText);
+    void replaceInModel(int start, int length, const QString& text, EditKind kind = Other);
+    // Replaces what the cursor selects (document positions) with text of the user.
+    void replaceSelected(const QTextCursor& cursor, const QString& plainText,
+                         EditKind kind = Other);
+    void editModel(const std::function<void()>& edit);
+    bool isCommandKey(const QKeyEvent* event) const;
     bool handleEditingKey(QKeyEvent* event);
     void deleteBackward();
     void moveDroppedSelection(int dropPosition);

@@ -7,49 +7,52 @@
 using namespace zt;
 using namespace zt::test;
 
-TEST(Highlight, TheVisualViewHighlightsThePlainTextOfTheSelection) {
-    BuilderViews v;
-    v.page().setDocumentHTML("<HTML><BODY>Hello <b>bold</b> world</BODY></HTML>");
-    v.page().selectText("<b>bold</b>");
-    v.program.pickers.colors = {255};
-    v.run([&] { v.tessara.mnuHighlight(); });
+// The selection as plain text, or with only a caret what the clipboard held before.
+TEST(Highlight, TheVisualViewHighlightsTheCopiedPlainText) {
+    const struct {
+        int selStart, selLength;
+        const char* body;
+    } cases[] = {
+        {6, 11, R"(Hello <span style="background-color:#FF0000">bold</span> &nbsp; world)"},
+        {6, 0,
+         R"(Hello <span style="background-color:#FF0000">old</span> &nbsp;<b>bold</b> world)"},
+    };
+    for (const auto& c : cases) {
+        BuilderViews v;
+        v.page().setDocumentHTML("<HTML><BODY>Hello <b>bold</b> world</BODY></HTML>");
+        v.page().setSelection(c.selStart, c.selLength);
+        v.program.clipboard.setText("old");
+        v.program.pickers.colors = {255};
+        v.run([&] { v.tessara.mnuHighlight(); });
 
-    ASSERT_TRUE(v.loaded<highlight>());
-    EXPECT_EQ(v.program.forms->get<highlight>().ui.compOrEdit.text(), "comp");
-    EXPECT_FALSE(v.program.forms->get<highlight>().isVisible());
-    v.tick();
-    EXPECT_EQ(v.page().bodyContent(),
-              R"(Hello <span style="background-color:#FF0000">bold</span> &nbsp; world)");
-    EXPECT_TRUE(v.program.failures.empty());
+        ASSERT_TRUE(v.loaded<highlight>());
+        EXPECT_EQ(v.program.forms->get<highlight>().ui.compOrEdit.text(), "comp");
+        EXPECT_FALSE(v.program.forms->get<highlight>().isVisible());
+        v.tick();
+        EXPECT_EQ(v.page().bodyContent(), c.body);
+        EXPECT_TRUE(v.program.failures.empty());
+    }
 }
 
-TEST(Highlight, TheVisualViewDoesNothingWithoutAColourOrASelection) {
+TEST(Highlight, TheVisualViewDoesNothingWithoutAColour) {
     const struct {
         const char* what;
         std::deque<std::optional<quint32>> picks;
         bool cancelError;
-        const char* selected;
-        bool dialogTold;
     } cases[] = {
-        {"black", {0}, false, "two", false},
-        {"cancel on first use", {std::nullopt}, false, "two", false},
-        {"cancel failing after an earlier command set CancelError",
-         {std::nullopt},
-         true,
-         "two",
-         false},
-        {"nothing selected to copy", {255}, false, nullptr, true},
+        {"black", {0}, false},
+        {"cancel on first use", {std::nullopt}, false},
+        {"cancel failing after an earlier command set CancelError", {std::nullopt}, true},
     };
     for (const auto& c : cases) {
         BuilderViews v;
         v.tessara.ui.ComDlg.cancelError = c.cancelError;
-        if (c.selected)
-            v.page().selectText(c.selected);
+        v.page().selectText("two");
         v.program.pickers.colors = c.picks;
         v.run([&] { v.tessara.mnuHighlight(); });
         EXPECT_FALSE(v.tessara.ui.Timer1.enabled()) << c.what;
         EXPECT_EQ(v.page().bodyContent(), "one two three") << c.what;
-        EXPECT_EQ(v.loaded<highlight>(), c.dialogTold) << c.what;
+        EXPECT_FALSE(v.loaded<highlight>()) << c.what;
         EXPECT_TRUE(v.program.failures.empty()) << c.what;
         EXPECT_TRUE(v.program.prompts.asked.empty()) << c.what;
     }

@@ -130,12 +130,12 @@ TEST_P(EngineContract, VisualInsertMovesAFragmentThroughAScratchPage) {
     EXPECT_EQ(body(first()), ("<p>Go " + fragment + "</p>").toStdString());
 }
 
-TEST_P(EngineContract, CommandsThatDoNotApplyFail) {
+TEST_P(EngineContract, CommandsThatDoNotApplyFailAndACaretCopiesNothing) {
     first().setDocumentHTML(page("<p>text</p>"));
     const QString before = first().documentHTML();
     // Nothing is selected after a page is set, and the clipboard is empty.
-    for (DhtmlCommand id : {DECMD_COPY, DECMD_CUT, DECMD_DELETE, DECMD_PASTE, DECMD_BOLD,
-                            DECMD_INSERTTABLE, DECMD_UNDO, DECMD_BRING_TO_FRONT}) {
+    for (DhtmlCommand id : {DECMD_CUT, DECMD_DELETE, DECMD_PASTE, DECMD_BOLD, DECMD_INSERTTABLE,
+                            DECMD_UNDO, DECMD_BRING_TO_FRONT}) {
         SCOPED_TRACE(int(id));
         try {
             first().execCommand(id);
@@ -146,6 +146,15 @@ TEST_P(EngineContract, CommandsThatDoNotApplyFail) {
     }
     EXPECT_EQ(first().documentHTML(), before);
     EXPECT_TRUE(kit->clipboard.html().isEmpty());
+
+    // Copy with nothing selected, then with the caret a paste leaves, succeeds and
+    // leaves the clipboard as it was.
+    kit->clipboard.setText(QStringLiteral("earlier"));
+    EXPECT_NO_THROW(first().execCommand(DECMD_COPY));
+    select(first(), QStringLiteral("text"));
+    first().execCommand(DECMD_PASTE);
+    EXPECT_NO_THROW(first().execCommand(DECMD_COPY));
+    EXPECT_EQ(kit->clipboard.text().toStdString(), "earlier");
 }
 
 TEST_P(EngineContract, BrowseModeRefusesEditsButCopies) {

@@ -82,7 +82,13 @@ TEST_F(TextEditViewTest, EachEditingKeyIsOneReplacement) {
         {"abc", 3, 0, "Del", "abc", 3, 0},
         {"abc", 0, 0, "Backspace", "abc", 0, 0},
         {"abc", 1, 0, "Tab", "a\tbc", 2, 1},
-        {"abc", 1, 0, "Ctrl+Z", "abc", 1, 0},
+        {"abc", 1, 0, "Ctrl+Z", "abc", 1, 0},         // an assignment left nothing to undo
+        {"x", 1, 0, "A, B, Ctrl+Z", "x", 1, 3},       // a typed run is one step
+        {"x", 1, 0, "A, Return, Ctrl+Z", "xa", 2, 3}, // a break is a step of its own
+        {"x", 1, 0, "A, Ctrl+Z, Ctrl+Y", "xa", 2, 3},
+        {"x", 1, 0, "A, Ctrl+Z, Ctrl+Shift+Z", "xa", 2, 3},
+        {"x", 1, 0, "A, Ctrl+Z, B, Ctrl+Y", "xb", 2, 3}, // a new edit drops the redo
+        {"one two", 7, 0, "Ctrl+Backspace, Ctrl+Z", "one two", 7, 2},
         {"one two", 7, 0, "Ctrl+Backspace", "one ", 4, 1},
         {"x\r\ny", 5, 0, "Up, Q", "xq\r\ny", 2, 1},
         {"ab", 1, 0, "Ctrl+V", "ax\r\nyb", 5, 1},

@@ -1,9 +1,11 @@
 #include "views.h"
 
+#include "platform/texteditview.h"
 #include "shell/commandmap.h"
 
 #include <QAction>
 #include <QFile>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -185,5 +187,72 @@ TEST(CommandMap, PopupButtonsOpenTheirMenusAtThePointer) {
         p.button->click();
         EXPECT_TRUE(p.menu->menu()->isVisible()) << p.menu->objectName().toStdString();
         p.menu->menu()->hide();
+    }
+}
+
+TEST(CommandMap, FixedCheckMarksStayWhenClicked) {
+    Views v;
+    for (QAction* item : {v.zelvo.ui.mnuEditor, v.tessara.ui.mnuTessara}) {
+        item->trigger();
+        EXPECT_TRUE(item->isChecked()) << item->objectName().toStdString();
+    }
+}
+
+// Every key of the source view's menus is the menu's, also while the editor has the
+// focus: the editor does not claim it first.
+TEST(CommandMap, EveryKeyOfTheSourceViewIsItsMenusInTheEditor) {
+    Views v;
+    int keys = 0;
+    for (QAction* item : v.zelvo.window()->findChildren<QAction*>()) {
+        for (const QKeySequence& key : item->shortcuts()) {
+            QKeyEvent press(QEvent::ShortcutOverride, key[0].key(), key[0].keyboardModifiers());
+            press.setAccepted(false);
+            QCoreApplication::sendEvent(v.zelvo.ui.areaView, &press);
+            EXPECT_FALSE(press.isAccepted()) << key.toString().toStdString();
+            ++keys;
+        }
+    }
+    EXPECT_GT(keys, 15);
+}
+
+// Keys pressed in the editor run the menus' handlers, whose edits undo takes back
+// one command at a time; editor and area agree all the way.
+TEST(CommandMap, MenuKeysInTheEditorRunTheirHandlersAndUndoTakesBackACommand) {
+    const QString large(40000, u'x');
+    const struct {
+        const char* what;
+        QString text;
+        int selStart, selLength;
+        const char* keys;
+        QString want;
+        int wantSelStart, wantSelLength, wantChanges, failure;
+    } cases[] = {
+        {"Select All is the menu's", "abc", 1, 0, "Ctrl+A", "abc", 0, 3, 0, 0},
+        {"and fails past 32767", large, 1, 0, "Ctrl+A", large, 1, 0, 0, RuntimeFailure::Overflow},
+        {"Bold is the menu's; each command is one step to undo", "a word", 2, 4,
+         "Ctrl+B, Ctrl+B, Ctrl+Z, Ctrl+Z", "a word", 6, 0, 5, 0},
+    };
+    Views v;
+    TextEditView& editor = *v.zelvo.ui.areaView;
+    v.zelvo.show();
+    v.zelvo.window()->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(v.zelvo.window()));
+    editor.setFocus();
+    int changes = 0;
+    v.area().addChangeHandler([&] { ++changes; });
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        v.area().setText(c.text);
+        v.area().setSelStart(c.selStart);
+        v.area().setSelLength(c.selLength);
+        changes = 0;
+        v.program.failures.clear();
+        QTest::keySequence(&editor, QKeySequence(QString::fromLatin1(c.keys)));
+        EXPECT_EQ(v.area().text(), c.want);
+        EXPECT_EQ(v.area().selStart(), c.wantSelStart);
+        EXPECT_EQ(v.area().selLength(), c.wantSelLength);
+        EXPECT_EQ(changes, c.wantChanges);
+        EXPECT_EQ(editor.toPlainText(), QString(c.want).replace("\r\n", "\n"));
+        EXPECT_EQ(v.program.failures.empty() ? 0 : v.program.failures[0].number(), c.failure);
     }
 }

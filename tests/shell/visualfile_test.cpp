@@ -1,6 +1,9 @@
 #include "views.h"
 
+#include "platform/engine/pageengine.h"
 #include "platform/runtimefailure.h"
+
+#include <QAction>
 
 #include <gtest/gtest.h>
 
@@ -23,16 +26,20 @@ TEST(VisualFile, OpenOnDirtyAnsweredYesSavesAndLosesThePath) {
     EXPECT_TRUE(v.program.failures.empty());
 }
 
-TEST(VisualFile, OpenLoadsThePageAndRecordsThePath) {
-    Views v;
-    const QString path = v.file("page.html", "<HTML><BODY><P>opened</P></BODY></HTML>");
-    v.program.pickers.files = {path};
-    v.run([&] { v.tessara.mnuOpen(); });
-    EXPECT_TRUE(v.txtComp().documentHTML().contains("opened"));
-    EXPECT_EQ(v.tag(), path);
-    EXPECT_EQ(v.fileName(), "");
-    EXPECT_EQ(v.tessara.caption(), "Zelvo Tessara: By Orvek - () " + path);
-    EXPECT_EQ(v.program.pickers.asked[0].file.defaultExt, "html");
+// Open and Recent load the page and record its path; only Open clears the name.
+TEST(VisualFile, OpenAndRecentLoadThePageAndRecordThePath) {
+    for (const bool recent : {false, true}) {
+        Views v;
+        const QString path = v.file("page.html", "<HTML><BODY><P>opened</P></BODY></HTML>");
+        v.tag() = v.program.scratch("previous.html");
+        v.program.pickers.files = {path};
+        v.tessara.ui.recent[1]->setText(path);
+        (recent ? v.tessara.ui.recent[1] : v.tessara.ui.mnuOpen)->trigger();
+        EXPECT_TRUE(v.txtComp().documentHTML().contains("opened"));
+        EXPECT_EQ(v.tag(), path);
+        EXPECT_EQ(v.fileName(), recent ? path : "");
+        EXPECT_EQ(v.tessara.caption(), "Zelvo Tessara: By Orvek - () " + path);
+    }
 }
 
 TEST(VisualFile, SaveRewritesTheSourceBufferWithTheGeneratorRuleOnly) {
@@ -40,13 +47,17 @@ TEST(VisualFile, SaveRewritesTheSourceBufferWithTheGeneratorRuleOnly) {
     const QString path = v.program.scratch("saved.html");
     v.tag() = path;
     v.zelvo.ui.star.setText("*");
-    const QString page = "<HTML><HEAD>\r\n<META content=\"MSHTML 6.00.2600.0\" name=GENERATOR>\r\n"
-                         "</HEAD><BODY><P>x</P></BODY></HTML>";
-    v.txtComp().setDocumentHTML(page);
-    v.run([&] { v.tessara.mnuSave(); });
+    const QString kept = "<META content=\"MSHTML 6.00.2800.1106\" name=GENERATOR>\r\n"
+                         "<META content=\"MSHTML 6.00.2600.0\" name=GENERATOR>";
+    v.txtComp().setDocumentHTML("<HTML><HEAD>\r\n" + kEngineGeneratorMarker + "\r\n" + kept +
+                                "\r\n</HEAD><BODY><P>x</P></BODY></HTML>");
+    v.tessara.ui.mnuSave->trigger();
 
     const QString written = readFile(path);
-    EXPECT_TRUE(written.contains("MSHTML 6.00.2600.0")) << "a direct save keeps that marker";
+    EXPECT_TRUE(written.contains(R"(<META NAME="GENERATOR" Content="Zelvo Tessara">)"
+                                 "\r\n" +
+                                 kept))
+        << "only the engine's own line is rewritten";
     EXPECT_EQ(written, v.area().text() + "\r\n") << "the source buffer is what was written";
     EXPECT_EQ(v.star(), "");
     EXPECT_TRUE(v.tessara.caption().startsWith("Zelvo Tessara: By Orvek - () "));
@@ -78,8 +89,7 @@ TEST(VisualFile, NewAsksAlwaysAndKeepsTheMark) {
     v.program.prompts.answers = {vbNo};
     v.run([&] { v.tessara.mnuNew(); });
     EXPECT_EQ(v.tag(), "/some/path.html");
-    ASSERT_EQ(v.program.prompts.asked.size(), 1u);
-    EXPECT_EQ(v.program.prompts.asked[0].style, vbYesNo | vbQuestion | vbDefaultButton2);
+    EXPECT_EQ(v.program.prompts.asked.size(), 1u);
 
     v.program.prompts.answers = {vbYes};
     v.run([&] { v.tessara.mnuNew(); });
@@ -90,32 +100,44 @@ TEST(VisualFile, NewAsksAlwaysAndKeepsTheMark) {
     EXPECT_EQ(v.tessara.caption(), "Untitled(): Zelvo Tessara 3.0 - By Orvek");
 }
 
+// Exit asks one question, from the menu or the frame's close button; on Yes it
+// deletes the crash file it knows of and writes the setting, unless that delete
+// fails. The visual view knows no file while its crash timer has no name.
 TEST(VisualFile, ExitAsksOnlyOnceAndWritesTheCrashSettingWhenTheDeleteWorks) {
-    for (const bool visual : {false, true}) {
+    enum Crash { Missing, Present, Unnamed };
+    const struct {
+        bool visual;
+        Crash crash;
+        bool byFrame;
+        const char* setting;
+    } cases[] = {
+        {false, Missing, false, "unset"}, {false, Present, true, "0"},
+        {true, Missing, true, "unset"},   {true, Present, false, "0"},
+        {true, Unnamed, false, "0"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.visual << c.crash << c.byFrame);
         Views v;
         v.zelvo.ui.star.setText("*");
-        const QString crashFile = visual ? v.program.scratch("docname") : document::tempCrashFile();
-        if (visual)
+        const QString crashFile =
+            c.visual ? v.program.scratch("docname") : document::tempCrashFile();
+        if (c.visual && c.crash != Unnamed)
             v.tessara.ui.TimeCrashSave.tag = crashFile;
-
-        // Without the file the delete fails and the setting is left alone.
         QFile::remove(crashFile);
-        v.program.prompts.answers = {vbYes};
-        v.run([&] { visual ? v.tessara.mnuExit() : v.zelvo.mnuExit(); });
-        EXPECT_EQ(v.program.processEnds, 1);
-        EXPECT_EQ(v.asked(), QStringList{"Are you sure you want to exit?"});
-        EXPECT_EQ(v.program.prompts.asked[0].title, "Confirm Exit: Zelvo Tessara");
-        EXPECT_EQ(v.program.settings.getSetting(document::kApp, "Crash", "crash", "unset"),
-                  "unset");
-
-        writeFile(crashFile, "x");
-        v.program.prompts.answers = {vbYes};
-        v.run([&] { visual ? v.tessara.mnuExit() : v.zelvo.mnuExit(); });
+        if (c.crash == Present)
+            writeFile(crashFile, "x");
+        Form& view = c.visual ? static_cast<Form&>(v.tessara) : v.zelvo;
+        QAction* exit = c.visual ? v.tessara.ui.mnuExit : v.zelvo.ui.mnuExit;
+        view.show();
+        v.program.prompts.answers = {vbNo, vbYes};
+        for (int i = 0; i < 2; ++i)
+            c.byFrame ? void(view.window()->close()) : exit->trigger();
+        EXPECT_EQ(v.asked(), QStringList({"Are you sure you want to exit?",
+                                          "Are you sure you want to exit?"}));
+        EXPECT_EQ(v.program.processEnds, 1) << "No keeps the program";
+        EXPECT_TRUE(view.isVisible());
         EXPECT_FALSE(QFile::exists(crashFile));
-        EXPECT_EQ(v.program.settings.getSetting(document::kApp, "Crash", "crash"), "0");
-
-        v.program.prompts.answers = {vbNo};
-        v.run([&] { visual ? v.tessara.mnuExit() : v.zelvo.mnuExit(); });
-        EXPECT_EQ(v.program.processEnds, 2);
+        EXPECT_EQ(v.program.settings.getSetting(document::kApp, "Crash", "crash", "unset"),
+                  c.setting);
     }
 }

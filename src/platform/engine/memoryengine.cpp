@@ -120,6 +120,8 @@ void MemoryEngine::execCommand(DhtmlCommand id) {
         return;
     case DECMD_CUT:
         requireEditable();
+        if (m_selectionLength == 0)
+            throw RuntimeFailure::invalidProcedureCall();
         copySelection();
         replaceSelection(QString());
         return;
@@ -210,9 +212,10 @@ QString MemoryEngine::selectedHtml() const {
     return bodyContent().mid(m_selectionStart, m_selectionLength);
 }
 
+// A caret copies nothing and leaves the clipboard as it was.
 void MemoryEngine::copySelection() {
     if (m_selectionLength == 0)
-        throw RuntimeFailure::invalidProcedureCall();
+        return;
     const QString html = selectedHtml();
     m_clipboard.setHtml(html, plainTextOf(html));
 }

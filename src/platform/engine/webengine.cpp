@@ -427,7 +427,10 @@ QString WebPageEngine::serialize(bool withMarker, std::chrono::milliseconds dead
     return pagetext::withCrLf(text.toString());
 }
 
+// A caret copies nothing and leaves the clipboard as it was.
 void WebPageEngine::copyToClipboard(const QVariantMap& answer) {
+    if (answer.value(QStringLiteral("empty")).toBool())
+        return;
     m_clipboard.setHtml(pagetext::withCrLf(answer.value(QStringLiteral("html")).toString()),
                         pagetext::withCrLf(answer.value(QStringLiteral("text")).toString()));
 }

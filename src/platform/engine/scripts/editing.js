@@ -95,7 +95,11 @@ const ztCommands = {
         ztSelect(range);
         return {ok: true};
     },
+    // A caret copies nothing and still succeeds.
     copy(args) {
+        const range = ztSelectionRange();
+        if (!range || range.collapsed)
+            return {ok: true, empty: true};
         const copied = ztCopy(args);
         return {ok: copied.ok, html: copied.html, text: copied.text};
     },
