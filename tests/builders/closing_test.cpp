@@ -1,7 +1,5 @@
 #include "builderkit.h"
 
-#include "builders/heading.h"
-#include "builders/highlight.h"
 #include "builders/rule.h"
 #include "builders/table.h"
 #include "pagehelpers/jsconsole.h"
@@ -29,14 +27,10 @@ TEST(Closing, EveryFormOfTheProgramIsInTheListOrStays) {
 TEST(Closing, AMainWindowsCloseUnloadsTheLoadedDialogs) {
     BuilderViews v;
     v.run([&] { v.zelvo.mnuHR(); });
-    v.run([&] { v.zelvo.mnuHeading(); });
-    v.run([&] { v.zelvo.mnuHighlight(); });
     v.program.forms->get<table>();
     v.program.forms->get<JSConsole>();
     unloadDialogs(*v.program.forms);
     EXPECT_FALSE(v.loaded<rule>());
-    EXPECT_FALSE(v.loaded<heading>());
-    EXPECT_FALSE(v.loaded<highlight>());
     EXPECT_FALSE(v.loaded<table>());
     EXPECT_FALSE(v.loaded<JSConsole>());
     EXPECT_TRUE(v.loaded<Zelvo>());

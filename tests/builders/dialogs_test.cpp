@@ -18,21 +18,6 @@
 using namespace zt;
 using namespace zt::test;
 
-namespace {
-
-struct Opened {
-    ElementDialog* dialog;
-    QPushButton* ok;
-    QPushButton* help;
-};
-
-template <class D> Opened opened(BuilderViews& v) {
-    D& d = v.program.forms->get<D>();
-    return {&d, d.ui.OKButton, d.ui.btnHelp};
-}
-
-} // namespace
-
 // Each dialog from each view that opens it: its window, what it prefills, its help
 // page, and its fragment where the caller said, the source view's at the selection
 // of the moment of OK. The page starts as "one two three" with "two" selected.
@@ -40,58 +25,59 @@ TEST(ElementDialogs, FromEachViewTheFragmentGoesWhereTheCallerSaid) {
     const struct {
         const char* what;
         std::function<void(BuilderViews&)> open;
-        std::function<Opened(BuilderViews&)> fill;
+        std::function<ElementDialog&(BuilderViews&)> fill;
         QString caption, help, area, page;
     } cases[] = {
         {"rule from the source view", [](BuilderViews& v) { v.zelvo.mnuHR(); },
-         [](BuilderViews& v) {
+         [](BuilderViews& v) -> ElementDialog& {
              rule& d = v.program.forms->get<rule>();
              v.selectInArea("three");
              d.ui.txtWidth.setText("50");
              d.ui.chkPercentage->setChecked(true);
              d.ui.cmbAlign->setCurrentText("Right");
              d.ui.chkShade->setChecked(true);
-             return opened<rule>(v);
+             return v.program.forms->get<rule>();
          },
          "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE",
          R"(one two <HR width="50%" align="Right" NOSHADE>)", "one two three"},
         {"rule from the visual view", [](BuilderViews& v) { v.tessara.mnuRule(); },
-         [](BuilderViews& v) {
+         [](BuilderViews& v) -> ElementDialog& {
              rule& d = v.program.forms->get<rule>();
              d.ui.txtSize.setText("3");
              d.ui.txtColour.setText("red");
-             return opened<rule>(v);
+             return v.program.forms->get<rule>();
          },
          "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE", "one two three",
          R"(one <HR color="red" size="3"> three)"},
         {"heading from the source view", [](BuilderViews& v) { v.zelvo.mnuHeading(); },
-         [](BuilderViews& v) {
+         [](BuilderViews& v) -> ElementDialog& {
              heading& d = v.program.forms->get<heading>();
              EXPECT_EQ(d.ui.txtHeadingView->text(), "one");
              EXPECT_TRUE(d.ui.radLevel1->isChecked());
              EXPECT_EQ(d.ui.listAlign->currentItem()->text(), "Left");
              d.ui.radLevel3->setChecked(true);
              d.ui.listAlign->setCurrentRow(1);
-             return opened<heading>(v);
+             return v.program.forms->get<heading>();
          },
          "Insert Heading : Zelvo", "INSERT HEADING", R"(<H3 align="Center">one</H3> two three)",
          "one two three"},
         {"heading from the visual view", [](BuilderViews& v) { v.tessara.mnuHeading(); },
-         [](BuilderViews& v) {
-             EXPECT_EQ(v.program.forms->get<heading>().ui.txtHeading.text(), "");
-             return opened<heading>(v);
+         [](BuilderViews& v) -> ElementDialog& {
+             heading& d = v.program.forms->get<heading>();
+             EXPECT_EQ(d.ui.txtHeading.text(), "");
+             return d;
          },
          "Insert Heading : Zelvo", "INSERT HEADING", "one two three",
          R"(one <H1 align="Left"></H1> three)"},
         {"highlight from the source view", [](BuilderViews& v) { v.zelvo.mnuHighlight(); },
-         [](BuilderViews& v) {
+         [](BuilderViews& v) -> ElementDialog& {
              highlight& d = v.program.forms->get<highlight>();
              EXPECT_EQ(d.ui.txthighlight.text(), "one");
              v.program.pickers.colors = {0xFFFF00};
              d.ui.openColor->click();
              EXPECT_EQ(d.ui.txtColour.text(), "#00FFFF");
              d.ui.txtColour.setText("#ff0000");
-             return opened<highlight>(v);
+             return v.program.forms->get<highlight>();
          },
          "Highlight Text : Zelvo", "HIGHLIGHT TEXT",
          R"(<span style="background-color: #FF0000">one</span>  two three)", "one two three"},
@@ -102,14 +88,17 @@ TEST(ElementDialogs, FromEachViewTheFragmentGoesWhereTheCallerSaid) {
         v.selectInArea("one");
         v.page().selectText("two");
         v.run([&] { c.open(v); });
-        const Opened d = c.fill(v);
-        EXPECT_TRUE(d.dialog->isVisible()) << c.what;
-        EXPECT_EQ(d.dialog->caption(), c.caption) << c.what;
-        EXPECT_TRUE(d.dialog->window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << c.what;
-        v.run([&] { d.help->click(); });
+        ElementDialog& d = c.fill(v);
+        const auto click = [&](const char* name) {
+            v.run([&] { d.window()->findChild<QPushButton*>(name)->click(); });
+        };
+        EXPECT_TRUE(d.isVisible()) << c.what;
+        EXPECT_EQ(d.caption(), c.caption) << c.what;
+        EXPECT_TRUE(d.window()->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) << c.what;
+        click("btnHelp");
         EXPECT_TRUE(v.program.forms->get<frmHelp>().ui.txtHelp.text().startsWith(c.help)) << c.what;
 
-        v.run([&] { d.ok->click(); });
+        click("OKButton");
         EXPECT_EQ(v.area().text(), c.area) << c.what;
         ASSERT_EQ(v.tessara.ui.Timer1.enabled(), c.page != "one two three") << c.what;
         if (v.tessara.ui.Timer1.enabled())

