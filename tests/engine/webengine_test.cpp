@@ -220,6 +220,14 @@ TEST_F(WebEngine, WaitsNestAndHaveADeadline) {
     EXPECT_TRUE(never.finished());
 }
 
+// As the in-memory engine, a new control holds an empty page ready for typing, so
+// that what the program writes into it before any document shows.
+TEST_F(WebEngine, ANewControlHoldsAnEmptyEditablePage) {
+    WebPageEngine fresh(EngineKit::pair(EngineKind::Web).clipboard);
+    EXPECT_EQ(evaluate(fresh, "document.designMode").toString(), "on");
+    EXPECT_TRUE(fresh.documentHTML().contains("<BODY></BODY>"));
+}
+
 TEST_F(WebEngine, EventsReachTheProgramThroughTheGuard) {
     QString keys;
     int moves = 0;

@@ -92,6 +92,10 @@ WebPageEngine::WebPageEngine(Clipboard& clipboard, QWidget* parent)
                 request.reject();
             });
     watchInput();
+    // The control comes up holding an empty page that can be typed into, as the
+    // in-memory engine does; without it the view would show a page that is neither
+    // editable nor repainted when the program writes into it.
+    newDocument();
 }
 
 WebPageEngine::~WebPageEngine() {
