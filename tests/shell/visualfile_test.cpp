@@ -75,8 +75,7 @@ TEST(VisualFile, SaveWithoutAPathCancelledBeforeCancelErrorWasSetChangesNothing)
     v.zelvo.ui.comdlg.cancelError = true;
     v.program.pickers.files = {std::nullopt};
     EXPECT_FALSE(v.run([&] { v.tessara.mnuSave(); }));
-    ASSERT_EQ(v.program.failures.size(), 1u);
-    EXPECT_EQ(v.program.failures[0].number(), RuntimeFailure::Cancel);
+    EXPECT_EQ(failure(v.program), RuntimeFailure::Cancel);
 }
 
 TEST(VisualFile, NewAsksAlwaysAndKeepsTheMark) {
