@@ -31,14 +31,10 @@ protected:
 TEST_F(GuardTest, FailureInMenuHandlerReachesTheGuardNotQt) {
     QMenu menu;
     QAction* item = menu.addAction(QStringLiteral("&Open"));
-    bool after = false;
-    QObject::connect(item, &QAction::triggered, item, guarded([&](bool) {
-                         throw RuntimeFailure::overflow();
-                         after = true;
-                     }));
+    QObject::connect(item, &QAction::triggered, item,
+                     guarded([](bool) { throw RuntimeFailure::overflow(); }));
     item->trigger();
     EXPECT_EQ(failures, std::vector<int>{RuntimeFailure::Overflow});
-    EXPECT_FALSE(after);
     // The event loop goes on serving events after the failure.
     item->trigger();
     EXPECT_EQ(failures.size(), 2u);

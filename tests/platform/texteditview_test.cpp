@@ -76,7 +76,6 @@ TEST_F(TextEditViewTest, EachEditingKeyIsOneReplacement) {
         {"a\nb", 1, 0, "Del", "ab", 1, 1},
         {"ab\r\ncd", 1, 0, "Shift+Right, Shift+Right, X", "axcd", 2, 1},
         {"ab\r\ncd", 1, 4, "Return", "a\r\nd", 3, 1},
-        {"abc", 1, 1, "Backspace", "ac", 1, 1},
         {"abc", 3, 0, "Del", "abc", 3, 0},
         {"abc", 0, 0, "Backspace", "abc", 0, 0},
         {"abc", 1, 0, "Tab", "a\tbc", 2, 1},
