@@ -8,6 +8,7 @@
 
 using namespace zt;
 using zt::test::q;
+using zt::test::randomText;
 
 namespace {
 
@@ -32,14 +33,6 @@ struct NaivePositions {
         toDocument.push_back(document);
     }
 };
-
-QString randomText(std::mt19937& random, int length) {
-    static const char16_t letters[] = u"ab\r\n\r\n\r";
-    QString text;
-    for (int i = 0; i < length; ++i)
-        text += QChar(letters[random() % 7]);
-    return text;
-}
 
 } // namespace
 

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <random>
 
 namespace zt::test {
 
@@ -20,6 +21,16 @@ inline int failureOf(const std::function<void()>& body) {
         return failure.number();
     }
     return 0;
+}
+
+// Letters and line breaks of every kind, CR LF pairs most often, so that edits keep
+// cutting and making pairs.
+inline QString randomText(std::mt19937& random, int length) {
+    static const char16_t letters[] = u"ab\r\n\r\n\r";
+    QString text;
+    for (int i = 0; i < length; ++i)
+        text += QChar(letters[random() % 7]);
+    return text;
 }
 
 } // namespace zt::test

@@ -200,20 +200,13 @@ TEST_F(TextEditViewTest, KeystrokeInLargeTextIsAppliedInPlace) {
 // control's text, and its caret the control's, after every one.
 TEST_F(TextEditViewTest, EditsAnywhereKeepEditorAndControlInStep) {
     std::mt19937 random(5);
-    const auto randomText = [&](int length) {
-        static const char letters[] = "ab\r\n\r\n";
-        QString text;
-        for (int i = 0; i < length; ++i)
-            text += QChar::fromLatin1(letters[random() % 6]);
-        return text;
-    };
     const Qt::Key keys[] = {Qt::Key_X, Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Return};
-    box.setText(randomText(20000));
+    box.setText(test::randomText(random, 20000));
     for (int edit = 0; edit < 200; ++edit) {
         box.setSelStart(int(random() % (box.text().size() + 1)));
         box.setSelLength(int(random() % 6));
         if (edit % 2 == 0)
-            box.setSelText(randomText(int(random() % 6)));
+            box.setSelText(test::randomText(random, int(random() % 6)));
         else
             QTest::keyClick(&view, keys[random() % 4]);
         ASSERT_EQ(view.toPlainText(), linebreaks::toDocument(box.text())) << edit;
