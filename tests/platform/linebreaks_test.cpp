@@ -1,4 +1,5 @@
 #include "platform/linebreaks.h"
+#include "testhelpers.h"
 
 #include <gtest/gtest.h>
 
@@ -6,12 +7,10 @@
 #include <vector>
 
 using namespace zt;
+using zt::test::q;
+using zt::test::randomText;
 
 namespace {
-
-QString q(const char* text) {
-    return QString::fromLatin1(text);
-}
 
 // The meaning of the positions, walked character by character: the document position
 // of every model position, and the model position of every document position.
@@ -35,14 +34,6 @@ struct NaivePositions {
     }
 };
 
-QString randomText(std::mt19937& random, int length) {
-    static const char16_t letters[] = u"ab\r\n\r\n\r";
-    QString text;
-    for (int i = 0; i < length; ++i)
-        text += QChar(letters[random() % 7]);
-    return text;
-}
-
 } // namespace
 
 TEST(TextLineBreaks, TextsTranslateBothWays) {
@@ -50,28 +41,6 @@ TEST(TextLineBreaks, TextsTranslateBothWays) {
     EXPECT_EQ(linebreaks::toModel(u"a\nb\r\nc\rd"), q("a\r\nb\r\nc\r\nd"));
     EXPECT_EQ(linebreaks::toModel(u"a\u2029b\u2028c"), q("a\r\nb\r\nc"));
     EXPECT_EQ(linebreaks::toModel(u"\r\r\n\n"), q("\r\n\r\n\r\n"));
-}
-
-TEST(TextLineBreaks, PositionsMapAcrossEveryKindOfBreak) {
-    // Model "ab\r\nc\rd\ne\r\n" (11) shows as "ab\nc\nd\ne\n" (9).
-    const QString model = q("ab\r\nc\rd\ne\r\n");
-    linebreaks::PositionMap map;
-    map.reset(model);
-    struct Case {
-        int modelPosition;
-        int documentPosition;
-    };
-    const Case toDocument[] = {{0, 0}, {2, 2}, {3, 3},  {4, 3},  {5, 4},  {6, 5},
-                               {8, 7}, {9, 8}, {10, 9}, {11, 9}, {40, 9}, {-3, 0}};
-    for (const Case& c : toDocument)
-        EXPECT_EQ(map.toDocumentPosition(model, c.modelPosition), c.documentPosition)
-            << c.modelPosition;
-    // Back from the document a break is never split: 3 is behind the CR LF.
-    const Case toModel[] = {{0, 0}, {2, 2}, {4, 3},  {5, 4},   {6, 5},
-                            {8, 7}, {9, 8}, {11, 9}, {11, 30}, {0, -1}};
-    for (const Case& c : toModel)
-        EXPECT_EQ(map.toModelPosition(model, c.documentPosition), c.modelPosition)
-            << c.documentPosition;
 }
 
 // Edits of every size anywhere, many cutting or making CR LF pairs, with pieces so
@@ -100,7 +69,11 @@ TEST(TextLineBreaks, PositionMapFollowsEditsAsAWalkOfTheText) {
                 ASSERT_EQ(map.toDocumentPosition(text, p), want.toDocument[p]) << edit << " " << p;
             for (int d = 0; d < int(want.toModel.size()); d += 1 + int(random() % 97))
                 ASSERT_EQ(map.toModelPosition(text, d), want.toModel[d]) << edit << " " << d;
+            // Out of range on either side is clamped to the ends.
             ASSERT_EQ(map.toModelPosition(text, int(want.toModel.size()) + 5), text.size());
+            ASSERT_EQ(map.toModelPosition(text, -1), 0);
+            ASSERT_EQ(map.toDocumentPosition(text, int(text.size()) + 9), want.toDocument.back());
+            ASSERT_EQ(map.toDocumentPosition(text, -3), 0);
         }
     }
 }

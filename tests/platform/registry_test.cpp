@@ -4,11 +4,9 @@
 #include "platform/textcontrol.h"
 #include "support/testprogram.h"
 
-#include <QCheckBox>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDialog>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -24,9 +22,6 @@ class Sample : public Form {
 public:
     explicit Sample(FormRegistry& forms) : Form(forms) {
         auto* window = new QDialog;
-        auto* layout = new QVBoxLayout(window);
-        ui.chkRemember = new QCheckBox(QStringLiteral("Remember Settings"), window);
-        layout->addWidget(ui.chkRemember);
         ui.preview = services().makeEngine(window);
         setWindow(window);
         setCaption(QStringLiteral("Sample"));
@@ -52,7 +47,6 @@ public:
     struct {
         TextControl compOrEdit;
         TextControl txtWidth;
-        QCheckBox* chkRemember = nullptr;
         std::unique_ptr<PageEngine> preview;
     } ui;
     bool keepOpen = false;
@@ -71,7 +65,6 @@ TEST(FormRegistry, TouchLoadsHiddenUnloadForgetsNextTouchIsFresh) {
     EXPECT_TRUE(forms.isLoaded<Sample>());
     EXPECT_EQ(g_loads, 1);
     EXPECT_FALSE(forms.get<Sample>().isVisible());
-    forms.get<Sample>().ui.chkRemember->setChecked(true);
     forms.get<Sample>().ui.preview->setDocumentHTML("<P>x</P>");
     EXPECT_EQ(g_loads, 1);
 
@@ -85,7 +78,6 @@ TEST(FormRegistry, TouchLoadsHiddenUnloadForgetsNextTouchIsFresh) {
     Sample& fresh = forms.get<Sample>();
     EXPECT_EQ(g_loads, 2);
     EXPECT_EQ(fresh.ui.txtWidth.text(), "100");
-    EXPECT_FALSE(fresh.ui.chkRemember->isChecked());
     EXPECT_EQ(fresh.ui.compOrEdit.text(), "edit");
     EXPECT_FALSE(fresh.ui.preview->documentHTML().contains("<P>x</P>"));
 }

@@ -1,5 +1,5 @@
-#include "platform/runtimefailure.h"
 #include "platform/textfiles.h"
+#include "testhelpers.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +11,7 @@
 #include <sys/resource.h>
 
 using namespace zt;
+using zt::test::failureOf;
 
 namespace {
 
@@ -24,15 +25,6 @@ void putBytes(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     file.open(QIODevice::WriteOnly | QIODevice::Truncate);
     file.write(bytes);
-}
-
-int failureOf(const std::function<void()>& body) {
-    try {
-        body();
-    } catch (const RuntimeFailure& f) {
-        return f.number();
-    }
-    return 0;
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-#include "platform/runtimefailure.h"
 #include "platform/vbstrings.h"
+#include "testhelpers.h"
 
 #include <gtest/gtest.h>
 
@@ -7,19 +7,7 @@
 
 using namespace zt;
 using namespace zt::vb;
-
-namespace {
-
-int failureOf(const std::function<void()>& call) {
-    try {
-        call();
-    } catch (const RuntimeFailure& f) {
-        return f.number();
-    }
-    return 0;
-}
-
-} // namespace
+using zt::test::failureOf;
 
 TEST(VbStrings, SearchesAreOneBasedWithZeroForAbsent) {
     struct Case {

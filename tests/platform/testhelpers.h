@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/runtimefailure.h"
+
+#include <QString>
+
+#include <functional>
+#include <random>
+
+namespace zt::test {
+
+inline QString q(const char* text) {
+    return QString::fromLatin1(text);
+}
+
+// The number of the run-time failure the body raised, or 0 when it raised none.
+inline int failureOf(const std::function<void()>& body) {
+    try {
+        body();
+    } catch (const RuntimeFailure& failure) {
+        return failure.number();
+    }
+    return 0;
+}
+
+// Letters and line breaks of every kind, CR LF pairs most often, so that edits keep
+// cutting and making pairs.
+inline QString randomText(std::mt19937& random, int length) {
+    static const char16_t letters[] = u"ab\r\n\r\n\r";
+    QString text;
+    for (int i = 0; i < length; ++i)
+        text += QChar(letters[random() % 7]);
+    return text;
+}
+
+} // namespace zt::test
