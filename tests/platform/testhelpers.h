@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/failureof.h"
+
 #include "platform/runtimefailure.h"
 
 #include <QString>
@@ -11,16 +13,6 @@ namespace zt::test {
 
 inline QString q(const char* text) {
     return QString::fromLatin1(text);
-}
-
-// The number of the run-time failure the body raised, or 0 when it raised none.
-inline int failureOf(const std::function<void()>& body) {
-    try {
-        body();
-    } catch (const RuntimeFailure& failure) {
-        return failure.number();
-    }
-    return 0;
 }
 
 // Letters and line breaks of every kind, CR LF pairs most often, so that edits keep

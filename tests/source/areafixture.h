@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/failureof.h"
+
 #include "platform/runtimefailure.h"
 #include "platform/textcontrol.h"
 
@@ -27,15 +29,5 @@ struct Area {
     TextControl control;
     int changes = 0;
 };
-
-// The number of the run-time failure that body ends with, or 0 when it ends normally.
-inline int failureOf(const std::function<void()>& body) {
-    try {
-        body();
-    } catch (const RuntimeFailure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 } // namespace zt::test
