@@ -21,6 +21,10 @@ ElementDialog::~ElementDialog() = default;
 
 void ElementDialog::build(TextControl& compOrEdit, const Controls& controls) {
     m_caller = &compOrEdit;
+    build(controls);
+}
+
+void ElementDialog::build(const Controls& controls) {
     auto* window = new DialogWindow(QString::fromLatin1(m_setup.name), m_setup.caption);
     setWindow(window);
     const FootButtons foot = layOut(window, controls);
@@ -58,7 +62,8 @@ void ElementDialog::accept() {
     if (warnedOfMissing())
         return;
     const QString text = fragment();
-    deliverTo(forms(), targetOf(m_setup.shape, m_caller->text()), text, m_setup.console);
+    const QString callerMode = m_caller ? m_caller->text() : QString();
+    deliverTo(forms(), targetOf(m_setup.shape, callerMode), text, m_setup.console);
     keepSettings();
     unload();
 }

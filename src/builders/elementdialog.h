@@ -60,6 +60,8 @@ protected:
     // Makes the window from the dialog's table of controls. compOrEdit is the
     // hidden text box the opener writes the caller into.
     void build(TextControl& compOrEdit, const Controls& controls);
+    // The same for a dialog that always delivers to one view and has no caller.
+    void build(const Controls& controls);
 
     // The fragment, from the dialog's generator and its controls.
     virtual QString fragment() = 0;

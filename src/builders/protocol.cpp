@@ -24,6 +24,8 @@ Target targetOf(Dispatch shape, const QString& callerMode) {
         return Target::Nowhere;
     case Dispatch::SourceOnly:
         return Target::Source;
+    case Dispatch::VisualOnly:
+        return Target::Visual;
     }
     return Target::Nowhere;
 }

@@ -33,6 +33,7 @@ enum class Dispatch {
     EditOrConsole, // "edit" to the source view, anything else to the console
     ThreeWay,      // each of "edit", "comp", "jsc"; any other value delivers nothing
     SourceOnly,    // no test: always the source view
+    VisualOnly,    // no test: always the visual view
 };
 
 enum class Target { Source, Visual, Console, Nowhere };

@@ -28,7 +28,6 @@ void Tessara::mnuColourPicker() {}
 void Tessara::mnuMetaGen() {}
 void Tessara::mnuLink() {}
 void Tessara::mnuRemLink() {}
-void Tessara::mnuHTML() {}
 void Tessara::mnuInsRectBox() {}
 void Tessara::mnuPageTitle() {}
 void Tessara::mnuImage() {}

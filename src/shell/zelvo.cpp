@@ -43,6 +43,9 @@ Zelvo::Zelvo(FormRegistry& forms)
     ui.areaView->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     ui.areaView->setGeometry(0, twips(600), twips(9000), twips(6400));
 
+    buildTagList(central);
+    ui.tagPanel->setGeometry(twips(9000), twips(600), twips(2900), twips(6400));
+
     ui.area.addChangeHandler([this] { area_Change(); });
     new EventWatcher(m_window, QEvent::Resize, [this] { Form_Resize(); });
 }
@@ -65,6 +68,7 @@ void Zelvo::Form_Resize() {
     if (height < 0)
         return;
     ui.areaView->resize(ui.areaView->width(), height);
+    ui.tagPanel->resize(ui.tagPanel->width(), height);
 }
 
 void Zelvo::titleupdate() {
@@ -81,6 +85,8 @@ void Zelvo::area_Change() {
     ui.star.setText(QStringLiteral("*"));
     titleupdate();
     updateLineCount();
+    if (ui.mnuAutoRecog->isChecked())
+        autoTagRecognition();
     ui.StatusBar1->setPanelText(1, QStringLiteral("Ready: Zelvo Tessara - By: Orvek"));
 }
 

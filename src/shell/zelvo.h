@@ -10,7 +10,9 @@
 #include <array>
 
 class QAction;
+class QListWidget;
 class QMainWindow;
+class QPushButton;
 class QToolBar;
 class QToolButton;
 
@@ -22,6 +24,7 @@ namespace zt {
 
 class StatusBar;
 class TextEditView;
+class TextLineView;
 
 // The source view: the document as plain text in `area`, with the fields of the
 // open document that both views share (the path in Tag, the dirty mark in star,
@@ -169,6 +172,23 @@ public:
     void titleupdate();
     void updateLineCount();
     void area_Change();
+    void autoTagRecognition();
+
+    // The tag list beside the text, and the quick reference bar above it.
+    void lstAllTags_Click();
+    void lstAllTags_DblClick();
+    void txtSearchTag_Change();
+    void txtSearchTag_GotFocus();
+    void txtSearchTag_LostFocus();
+    void insertCatalogueTag();
+    void insertReferenceLine();
+    void btnQBHtml_Click();
+    void btnQBCss_Click();
+    void btnQBForms_Click();
+    void btnQBTables_Click();
+    // Fills the tag list from a library file, one line of the file a line of the list;
+    // a missing file, or one above 32767 bytes, leaves the list and says so.
+    void loadTagList(const QString& path);
 
     // The document's path; empty means never saved.
     QString Tag;
@@ -183,6 +203,14 @@ public:
         TextControl star;
         TextControl txtSearch;
         TextControl area1;
+        TextControl txtSearchTag;
+        TextLineView* txtSearchTagView = nullptr;
+        QListWidget* lstAllTags = nullptr;
+        QWidget* tagPanel = nullptr;
+        QPushButton* btnQBHtml = nullptr;
+        QPushButton* btnQBCss = nullptr;
+        QPushButton* btnQBForms = nullptr;
+        QPushButton* btnQBTables = nullptr;
         CommonDialog comdlg;
         StatusBar* StatusBar1 = nullptr;
         QToolBar* Toolbar1 = nullptr;
@@ -345,6 +373,12 @@ public:
 
 private:
     void Form_Resize();
+    void buildTagList(QWidget* central);
+    void useLibrary(const QString& file, QPushButton* chosen, QPushButton* other);
+    void popUpAtPointer(QAction* menu);
+    void fillTagList(const QStringList& lines);
+    // The selected line of the tag list; empty when none is.
+    QString selectedTagLine() const;
     void loadSourceFile();
     void saveSourceFile();
     void pushRecentSource();

@@ -72,5 +72,6 @@ void Zelvo::mnuTipOfDay() {}
 void Zelvo::mnuAuthorOnline() {}
 void Zelvo::mnuAbout() {}
 void Zelvo::showFindMe() {}
+void Zelvo::autoTagRecognition() {}
 
 } // namespace zt
