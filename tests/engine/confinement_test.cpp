@@ -4,16 +4,16 @@
 
 #include "enginekit.h"
 
+#include "platform/engine/pagefolder.h"
 #include "platform/engine/webengine.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocalServer>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -87,10 +87,7 @@ TEST(Confinement, APageShowsItsFolderTreeAndReadsNoFile) {
     };
     const QString display = QStringLiteral("rgb(4, 5, 6) rgb(1, 2, 3) 3 5");
     const auto eventually = [](const std::function<bool()>& check) {
-        const QDeadlineTimer deadline(20000);
-        while (!check() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-        return check();
+        return test::eventually(check, std::chrono::seconds(20));
     };
 
     engine.loadDocument(path);
@@ -114,6 +111,35 @@ TEST(Confinement, APageShowsItsFolderTreeAndReadsNoFile) {
     EXPECT_TRUE(filesUnder(qEnvironmentVariable("XDG_DATA_HOME")).isEmpty() &&
                 filesUnder(qEnvironmentVariable("XDG_CACHE_HOME")).isEmpty())
         << "the engine kept something on disk";
+}
+
+// The edges of a page's folder tree that a page cannot show us by itself.
+TEST(PageFolder, TreeStopsBelowHomeAndLeavesOutHiddenNamesAndSockets) {
+    const QString home = QFileInfo(QDir::homePath()).canonicalFilePath();
+    QTemporaryDir top;
+    const QString base = QFileInfo(top.path()).canonicalFilePath();
+    ASSERT_TRUE(QDir().mkpath(base + "/a/b/c") && QDir().mkpath(base + "/a/.git"));
+    const struct {
+        QString folder;
+        QString root;
+    } roots[] = {{base + "/a/b/c", base + "/a"}, {home, home}, {"/", ""}, {"", ""}};
+    for (const auto& c : roots)
+        EXPECT_EQ(pagefolder::rootFor(c.folder), c.root) << c.folder.toStdString();
+
+    const QString root = base + "/a";
+    for (const char* name : {"/b/a.png", "/.git/config"})
+        ASSERT_TRUE(QFile(root + name).open(QIODevice::WriteOnly)) << name;
+    ASSERT_TRUE(QFile::link(root + "/b/a.png", root + "/b/c/link.png"));
+    QLocalServer socket;
+    ASSERT_TRUE(socket.listen(root + "/b/socket"));
+    const struct {
+        const char* name;
+        const char* shown;
+    } files[] = {{"/b/c/link.png", "/b/a.png"}, {"/.git/config", ""}, {"/b/socket", ""}};
+    for (const auto& c : files) {
+        const QString shown = pagefolder::showableFile(root, root + c.name);
+        EXPECT_EQ(shown, *c.shown ? root + c.shown : QString()) << c.name;
+    }
 }
 
 } // namespace

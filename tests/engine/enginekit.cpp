@@ -5,6 +5,8 @@
 #include "platform/engine/webengine.h"
 #include "platform/guard.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QWebEnginePage>
 #include <QWebEngineScript>
@@ -18,50 +20,30 @@ namespace zt::test {
 
 namespace {
 
-class MemoryPair : public EnginePair {
+template <class Engine> class PairOf : public EnginePair {
 public:
     PageEngine& first() override { return m_first; }
     PageEngine& second() override { return m_second; }
     bool selectText(PageEngine& engine, const QString& text) override {
-        return static_cast<MemoryEngine&>(engine).selectText(text);
+        return static_cast<Engine&>(engine).selectText(text);
     }
 
 private:
-    MemoryEngine m_first{clipboard};
-    MemoryEngine m_second{clipboard};
+    Engine m_first{clipboard};
+    Engine m_second{clipboard};
 };
 
-class WebPair : public EnginePair {
-public:
-    PageEngine& first() override { return m_first; }
-    PageEngine& second() override { return m_second; }
-    bool selectText(PageEngine& engine, const QString& text) override {
-        return static_cast<WebPageEngine&>(engine).selectText(text);
-    }
-
-private:
-    WebPageEngine m_first{clipboard};
-    WebPageEngine m_second{clipboard};
-};
-
-std::unique_ptr<MemoryPair> g_memory;
-std::unique_ptr<WebPair> g_web;
+std::unique_ptr<EnginePair> g_pairs[2];
 
 } // namespace
 
-std::string kindName(EngineKind kind) {
-    return kind == EngineKind::Memory ? "Memory" : "Web";
-}
-
 EnginePair& EngineKit::pair(EngineKind kind) {
-    if (kind == EngineKind::Memory) {
-        if (!g_memory)
-            g_memory = std::make_unique<MemoryPair>();
-        return *g_memory;
-    }
-    if (!g_web)
-        g_web = std::make_unique<WebPair>();
-    return *g_web;
+    auto& pair = g_pairs[int(kind)];
+    if (!pair && kind == EngineKind::Memory)
+        pair = std::make_unique<PairOf<MemoryEngine>>();
+    else if (!pair)
+        pair = std::make_unique<PairOf<WebPageEngine>>();
+    return *pair;
 }
 
 WebPageEngine& EngineKit::web() {
@@ -69,8 +51,8 @@ WebPageEngine& EngineKit::web() {
 }
 
 void EngineKit::release() {
-    g_memory.reset();
-    g_web.reset();
+    for (auto& pair : g_pairs)
+        pair.reset();
 }
 
 QVariant evaluate(WebPageEngine& engine, const QString& script) {
@@ -79,6 +61,32 @@ QVariant evaluate(WebPageEngine& engine, const QString& script) {
     view->page()->runJavaScript(script, QWebEngineScript::ApplicationWorld,
                                 [answer](const QVariant& value) { answer.finish(value); });
     return answer.wait(std::chrono::seconds(30));
+}
+
+EventLog::EventLog(PageEngine& engine) : engine(engine) {
+    Guard::setEnding(
+        [this](const RuntimeFailure& failure) { failures.push_back(failure.number()); });
+    engine.onKeyPress = [this](QChar key) {
+        keys += key;
+        if (key == u'!')
+            throw RuntimeFailure::overflow();
+    };
+    engine.onMouseMove = [this] { ++moves; };
+    engine.onDisplayChanged = [this] { ++displayChanges; };
+}
+
+EventLog::~EventLog() {
+    engine.onKeyPress = nullptr;
+    engine.onMouseMove = nullptr;
+    engine.onDisplayChanged = nullptr;
+    failAtGuard();
+}
+
+bool eventually(const std::function<bool()>& check, std::chrono::milliseconds time) {
+    const QDeadlineTimer deadline(time);
+    while (!check() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    return check();
 }
 
 void failAtGuard() {

@@ -6,8 +6,11 @@
 #include <QString>
 #include <QVariant>
 
+#include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace zt {
 class WebPageEngine;
@@ -16,8 +19,6 @@ class WebPageEngine;
 namespace zt::test {
 
 enum class EngineKind { Memory, Web };
-
-std::string kindName(EngineKind kind);
 
 // Two engines of one kind on one clipboard, with what a test needs beyond the
 // engine interface.
@@ -43,6 +44,21 @@ public:
 // Runs script in the page of a real engine, in the application world, and waits
 // for its answer.
 QVariant evaluate(WebPageEngine& engine, const QString& script);
+
+// Records an engine's events as the program's handlers see them. The key '!' fails
+// with an overflow, which the guard records instead of ending the process.
+struct EventLog {
+    explicit EventLog(PageEngine& engine);
+    ~EventLog();
+    PageEngine& engine;
+    QString keys;
+    int moves = 0, displayChanges = 0;
+    std::vector<int> failures;
+};
+
+// Runs events until check holds or the time is up.
+bool eventually(const std::function<bool()>& check,
+                std::chrono::milliseconds time = std::chrono::seconds(2));
 
 // Makes a failure that reaches the guard fail the running test, instead of
 // ending the process as in the program.

@@ -4,7 +4,6 @@
 #include "enginekit.h"
 
 #include "platform/engine/memoryengine.h"
-#include "platform/guard.h"
 #include "platform/runtimefailure.h"
 
 #include <QTemporaryDir>
@@ -41,32 +40,17 @@ TEST(MemoryEngine, SelectionByOffsetsInTheBodyContent) {
 TEST(MemoryEngine, TypingReplacesTheSelectionAndRaisesTheEvents) {
     MemoryClipboard clipboard;
     MemoryEngine engine(clipboard);
-    QString keys;
-    int moves = 0;
-    int changes = 0;
-    std::vector<int> failures;
-    Guard::setEnding([&](const RuntimeFailure& failure) { failures.push_back(failure.number()); });
-    engine.onKeyPress = [&](QChar key) {
-        keys += key;
-        if (key == u'!')
-            throw RuntimeFailure::overflow();
-    };
-    engine.onMouseMove = [&] { ++moves; };
-    engine.onDisplayChanged = [&] { ++changes; };
-
+    EventLog log(engine);
     engine.setDocumentHTML(QStringLiteral("<BODY>one two</BODY>"));
     ASSERT_TRUE(engine.selectText(QStringLiteral("two")));
     for (QChar key : QStringLiteral("<2!"))
         engine.typeKey(key);
     engine.moveMouse();
     engine.changeDisplay();
-
     EXPECT_EQ(engine.bodyContent().toStdString(), "one &lt;2!");
-    EXPECT_EQ(keys.toStdString(), "<2!");
-    EXPECT_EQ(failures, std::vector<int>{RuntimeFailure::Overflow});
-    EXPECT_EQ(moves, 1);
-    EXPECT_EQ(changes, 1);
-    failAtGuard();
+    EXPECT_EQ(log.keys.toStdString(), "<2!");
+    EXPECT_EQ(log.failures, std::vector<int>{RuntimeFailure::Overflow});
+    EXPECT_EQ(std::pair(log.moves, log.displayChanges), std::pair(1, 1));
 }
 
 TEST(MemoryEngine, LoadURLKeepsTheAddressAndReadsLocalFiles) {

@@ -8,9 +8,9 @@
 #include "platform/engine/webengine.h"
 #include "platform/guard.h"
 #include "platform/runtimefailure.h"
+#include "support/failureof.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -35,25 +35,7 @@ protected:
         engine.setBrowseMode(false);
         EngineKit::pair(EngineKind::Web).clipboard.clear();
     }
-    void TearDown() override {
-        engine.setBrowseMode(false);
-        engine.onKeyPress = nullptr;
-        engine.onMouseMove = nullptr;
-        engine.onDisplayChanged = nullptr;
-        failAtGuard();
-    }
-
-    // Runs events until check holds or the time is up.
-    static bool eventually(const std::function<bool()>& check,
-                           std::chrono::milliseconds time = 2s) {
-        const QDeadlineTimer deadline(time);
-        while (!check()) {
-            if (deadline.hasExpired())
-                return false;
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        }
-        return true;
-    }
+    void TearDown() override { engine.setBrowseMode(false); }
 
     std::string js(const char* script) { return evaluate(engine, script).toString().toStdString(); }
 
@@ -71,14 +53,10 @@ TEST_F(WebEngine, ScriptsOfThePageNeverRunWhileItIsEdited) {
         "<img src=\"missing.gif\" onerror=\"document.title = 'error'\"></body></html>";
     writeBytes(path, page);
     for (bool fromFile : {false, true}) {
-        SCOPED_TRACE(fromFile ? "loaded from a file" : "set as text");
-        if (fromFile)
-            engine.loadDocument(path);
-        else
-            engine.setDocumentHTML(QString::fromUtf8(page));
+        fromFile ? engine.loadDocument(path) : engine.setDocumentHTML(QString::fromUtf8(page));
         QCoreApplication::processEvents();
-        EXPECT_EQ(js("document.title"), "Original");
-        EXPECT_FALSE(engine.documentHTML().contains(QLatin1String("<hr>")));
+        EXPECT_EQ(js("document.title"), "Original") << fromFile;
+        EXPECT_FALSE(engine.documentHTML().contains(QLatin1String("<hr>"))) << fromFile;
     }
 
     // Nor does a pasted fragment's.
@@ -210,12 +188,7 @@ TEST_F(WebEngine, WaitsNestAndHaveADeadline) {
               pageWithMarker("<p>later</p>\r\n").toStdString());
 
     PendingAnswer never;
-    try {
-        never.wait(50ms);
-        ADD_FAILURE() << "an unanswered wait returned";
-    } catch (const RuntimeFailure& failure) {
-        EXPECT_EQ(failure.number(), RuntimeFailure::InvalidProcedureCall);
-    }
+    EXPECT_EQ(failureOf([&] { never.wait(50ms); }), 5) << "an unanswered wait returned";
     never.finish(1); // a late answer is dropped
     EXPECT_TRUE(never.finished());
 }
@@ -229,43 +202,28 @@ TEST_F(WebEngine, ANewControlHoldsAnEmptyEditablePage) {
 }
 
 TEST_F(WebEngine, EventsReachTheProgramThroughTheGuard) {
-    QString keys;
-    int moves = 0;
-    int displayChanges = 0;
-    std::vector<int> failures;
-    Guard::setEnding([&](const RuntimeFailure& failure) { failures.push_back(failure.number()); });
-    engine.onKeyPress = [&](QChar key) {
-        keys += key;
-        if (key == u'!')
-            throw RuntimeFailure::overflow();
-    };
-    engine.onMouseMove = [&] { ++moves; };
-    engine.onDisplayChanged = [&] { ++displayChanges; };
-
+    EventLog log(engine);
     engine.setDocumentHTML(QStringLiteral("<p>events</p>"));
-    EXPECT_TRUE(eventually([&] { return displayChanges > 0; }));
+    EXPECT_TRUE(eventually([&] { return log.displayChanges > 0; }));
 
     QWidget* input = engine.widget()->focusProxy();
     ASSERT_NE(input, nullptr);
-    const struct {
-        int key;
-        const char* text;
-    } typed[] = {{Qt::Key_A, "a"},
-                 {Qt::Key_Left, ""},
-                 {Qt::Key_Return, "\r"},
-                 {Qt::Key_Shift, ""},
-                 {Qt::Key_Exclam, "!"}};
-    for (const auto& t : typed) {
-        QKeyEvent press(QEvent::KeyPress, t.key, Qt::NoModifier, QString::fromLatin1(t.text));
+    const std::pair<int, const char*> typed[] = {{Qt::Key_A, "a"},
+                                                 {Qt::Key_Left, ""},
+                                                 {Qt::Key_Return, "\r"},
+                                                 {Qt::Key_Shift, ""},
+                                                 {Qt::Key_Exclam, "!"}};
+    for (const auto& [key, text] : typed) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString::fromLatin1(text));
         QCoreApplication::sendEvent(input, &press);
     }
-    EXPECT_EQ(keys.toStdString(), "a\r!");
-    EXPECT_EQ(failures, std::vector<int>{RuntimeFailure::Overflow});
+    EXPECT_EQ(log.keys.toStdString(), "a\r!");
+    EXPECT_EQ(log.failures, std::vector<int>{RuntimeFailure::Overflow});
 
     QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), QPointF(5, 5), Qt::NoButton, Qt::NoButton,
                      Qt::NoModifier);
     QCoreApplication::sendEvent(input, &move);
-    EXPECT_EQ(moves, 1);
+    EXPECT_EQ(log.moves, 1);
 }
 
 } // namespace

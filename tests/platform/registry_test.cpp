@@ -4,8 +4,6 @@
 #include "platform/textcontrol.h"
 #include "support/testprogram.h"
 
-#include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDialog>
 
 #include <gtest/gtest.h>
@@ -34,8 +32,6 @@ public:
             services().settings->getSetting("Zelvo Tessara 3.0", "Sample", "Mode"));
     }
 
-    void formUnload(bool& cancel) override { cancel = keepOpen; }
-
     void OKButton() {
         services().settings->saveSetting("Zelvo Tessara 3.0", "Sample", "Mode",
                                          ui.compOrEdit.text());
@@ -49,7 +45,6 @@ public:
         TextControl txtWidth;
         std::unique_ptr<PageEngine> preview;
     } ui;
-    bool keepOpen = false;
 };
 
 } // namespace
@@ -80,22 +75,6 @@ TEST(FormRegistry, TouchLoadsHiddenUnloadForgetsNextTouchIsFresh) {
     EXPECT_EQ(fresh.ui.txtWidth.text(), "100");
     EXPECT_EQ(fresh.ui.compOrEdit.text(), "edit");
     EXPECT_FALSE(fresh.ui.preview->documentHTML().contains("<P>x</P>"));
-}
-
-TEST(FormRegistry, FrameCloseRunsTheUnloadStepWhichMayCancel) {
-    test::TestProgram program;
-    FormRegistry& forms = *program.forms;
-    Sample& sample = forms.get<Sample>();
-    sample.show();
-    sample.keepOpen = true;
-    QCloseEvent refused;
-    QCoreApplication::sendEvent(sample.window(), &refused);
-    EXPECT_TRUE(forms.isLoaded<Sample>());
-    EXPECT_TRUE(sample.isVisible());
-
-    sample.keepOpen = false;
-    QCloseEvent accepted;
-    QCoreApplication::sendEvent(sample.window(), &accepted);
-    EXPECT_FALSE(forms.isLoaded<Sample>());
+    EXPECT_TRUE(forms.unload<Sample>());
     EXPECT_TRUE(forms.unload<Sample>()) << "unloading what is not loaded is no failure";
 }
