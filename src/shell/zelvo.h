@@ -173,6 +173,10 @@ public:
     void updateLineCount();
     void area_Change();
     void autoTagRecognition();
+    // The popups of the table and form menus at the pointer, as their format bar
+    // buttons show them.
+    void tableMenuAtPointer();
+    void formMenuAtPointer();
 
     // The tag list beside the text, and the quick reference bar above it.
     void lstAllTags_Click();

@@ -40,7 +40,6 @@ void Zelvo::mnuBookmarks() {}
 void Zelvo::mnuRectangularBox() {}
 void Zelvo::mnusmartsel() {}
 void Zelvo::mnuSpell() {}
-void Zelvo::mnuAutoRecog() {}
 void Zelvo::mnuAutoDelete() {}
 void Zelvo::mnuFindEndTag() {}
 void Zelvo::mnuShowTempClip() {}
@@ -72,6 +71,5 @@ void Zelvo::mnuTipOfDay() {}
 void Zelvo::mnuAuthorOnline() {}
 void Zelvo::mnuAbout() {}
 void Zelvo::showFindMe() {}
-void Zelvo::autoTagRecognition() {}
 
 } // namespace zt
