@@ -50,6 +50,15 @@ TextEditView::TextEditView(TextControl& control, QWidget* parent)
     m_control.setObserver([this](const TextChange& change) { showControl(change); });
 }
 
+// What the user has in the editor, as the control holds it: the document's text less the
+// breaks that only cut a long line for display.
+QString TextEditView::toPlainText() const {
+    const QString shown = QPlainTextEdit::toPlainText();
+    if (m_resyncPending)
+        return shown;
+    return m_positions.withoutDisplayBreaks(m_control.text(), shown);
+}
+
 TextEditView::~TextEditView() {
     m_control.setObserver(nullptr);
     // The base class still moves the cursor while it dies; nothing of ours may run then.
@@ -107,17 +116,36 @@ void TextEditView::keyPressEvent(QKeyEvent* event) {
     // does nothing.
     if (isCommandKey(event))
         return;
-    if (isReadOnly() || !handleEditingKey(event))
+    if (!isReadOnly() && handleEditingKey(event))
+        return;
+    const int before = textCursor().position();
+    QPlainTextEdit::keyPressEvent(event);
+    // The cut of a long line is no character of the text: a move that only stepped over
+    // one goes on to the next character, word or line.
+    const int after = textCursor().position();
+    if (after != before && toModel(after) == toModel(before))
         QPlainTextEdit::keyPressEvent(event);
+}
+
+int TextEditView::toModel(int documentPosition) const {
+    return m_positions.toModelPosition(m_control.text(), documentPosition);
+}
+
+bool TextEditView::selectsNoText(const QTextCursor& cursor) const {
+    return toModel(cursor.selectionStart()) == toModel(cursor.selectionEnd());
 }
 
 // Every key that would change the text is dealt with here, if only by refusing it;
 // false leaves the key to the base class, which then only moves, selects or copies.
 bool TextEditView::handleEditingKey(QKeyEvent* event) {
     QTextCursor cursor = textCursor();
+    // A step that reaches only the cut of a long line is taken once more.
     const auto deleteUnlessSelected = [&](auto extend) {
-        if (!cursor.hasSelection())
+        if (!cursor.hasSelection()) {
             extend();
+            if (selectsNoText(cursor))
+                extend();
+        }
         replaceSelected(cursor, QString());
     };
     const auto extendTo = [&](QTextCursor::MoveOperation move) {
@@ -178,6 +206,8 @@ void TextEditView::deleteBackward() {
     QTextCursor cursor = textCursor();
     if (!cursor.hasSelection()) {
         int from = cursor.position() - 1;
+        if (from > 0 && toModel(from) == toModel(from + 1))
+            --from; // the cut of a long line, which is no character of the text
         if (from < 0)
             return;
         // A break is one character of the document, so a CR LF pair of the control goes
@@ -217,6 +247,17 @@ void TextEditView::insertFromMimeData(const QMimeData* source) {
     if (isReadOnly() || !source || !source->hasText())
         return;
     replaceSelected(textCursor(), source->text());
+}
+
+// The clipboard and a drag get the selected text as the control has it, breaks as "\n",
+// without the cuts of long lines.
+QMimeData* TextEditView::createMimeDataFromSelection() const {
+    const QTextCursor cursor = textCursor();
+    const int start = toModel(cursor.selectionStart());
+    const int end = toModel(cursor.selectionEnd());
+    auto* data = new QMimeData;
+    data->setText(linebreaks::toDocument(QStringView(m_control.text()).sliced(start, end - start)));
+    return data;
 }
 
 void TextEditView::contextMenuEvent(QContextMenuEvent* event) {
@@ -280,7 +321,7 @@ void TextEditView::moveDroppedSelection(int dropPosition) {
 
 void TextEditView::replaceSelected(const QTextCursor& cursor, const QString& plainText,
                                    EditKind kind) {
-    if (!cursor.hasSelection() && plainText.isEmpty())
+    if (plainText.isEmpty() && selectsNoText(cursor))
         return;
     const QString& text = m_control.text();
     const int start = m_positions.toModelPosition(text, cursor.selectionStart());
@@ -346,22 +387,20 @@ void TextEditView::applyToDocument(const TextChange& change) {
         showText();
         return;
     }
-    const int documentStart = m_positions.toDocumentPosition(text, start);
-    const qsizetype documentRemoved =
-        linebreaks::toDocument(QStringView(before).sliced(edit.start, edit.removed)).size();
+    const linebreaks::DocumentEdit shown =
+        m_positions.replaced(text, start, QStringView(before).sliced(edit.start, edit.removed),
+                             int(edit.inserted.size()));
     QTextCursor cursor(document());
-    cursor.setPosition(documentStart);
-    cursor.setPosition(int(documentStart + documentRemoved), QTextCursor::KeepAnchor);
-    const QString inserted = linebreaks::toDocument(edit.inserted);
-    cursor.insertText(inserted);
-    m_positions.replaced(text, start, edit.removed, int(edit.inserted.size()));
-    keepGlyphsOfLongLines(documentStart, int(documentStart + inserted.size()));
+    cursor.setPosition(shown.start);
+    cursor.setPosition(shown.start + shown.removed, QTextCursor::KeepAnchor);
+    cursor.insertText(shown.inserted);
+    keepGlyphsOfLongLines(shown.start, int(shown.start + shown.inserted.size()));
 }
 
 // The whole text anew, when it all changed or the document went its own way.
 void TextEditView::showText() {
     m_positions.reset(m_control.text());
-    setPlainText(linebreaks::toDocument(m_control.text()));
+    setPlainText(m_positions.documentText(m_control.text()));
     keepGlyphsOfLongLines(0, document()->characterCount());
 }
 

@@ -15,6 +15,8 @@ namespace zt {
 // Ctrl+Z takes back the control's last edit, Ctrl+Y and Ctrl+Shift+Z redo it. A key
 // that a command of the window has is the command's, never the editor's.
 // setReadOnly(true) turns it into a viewer whose text can still be selected.
+// A very long line is shown as several lines, cut where the position map says; the
+// cuts are the editor's own, never part of the text, the clipboard or a drag.
 // One view per control; the control must outlive it.
 class TextEditView : public QPlainTextEdit {
     Q_OBJECT
@@ -23,6 +25,9 @@ public:
     ~TextEditView() override;
 
     TextControl& control() const { return m_control; }
+    // The text in the editor with its breaks as "\n", as QPlainTextEdit gives it, but
+    // without the breaks that only cut a long line for display.
+    QString toPlainText() const;
 
     // The user's cut and delete of the selection, each one edit of the control.
     void cutSelection();
@@ -34,6 +39,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
+    QMimeData* createMimeDataFromSelection() const override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -47,6 +53,9 @@ private:
                          EditKind kind = Other);
     void editModel(const std::function<void()>& edit);
     bool isCommandKey(const QKeyEvent* event) const;
+    int toModel(int documentPosition) const;
+    // Whether the cursor selects nothing but the cut of a long line, or nothing at all.
+    bool selectsNoText(const QTextCursor& cursor) const;
     bool handleEditingKey(QKeyEvent* event);
     void deleteBackward();
     void moveDroppedSelection(int dropPosition);

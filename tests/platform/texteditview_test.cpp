@@ -252,3 +252,52 @@ TEST_F(TextEditViewTest, EditorEditedAroundTheControlReturnsToItsText) {
     EXPECT_EQ(box.text(), q("ab\r\nxcd"));
     EXPECT_EQ(view.toPlainText(), q("ab\nxcd"));
 }
+
+// A long line is shown in several lines of the editor. Carets put in front of, behind
+// and on both sides of those cuts, then keys, copies, cuts, pastes and undo: the editor
+// must hold the control's text (its cuts aside), select the same characters, and give
+// the clipboard the true text.
+TEST_F(TextEditViewTest, LongLinesCutForDisplayEditAsTheControlsText) {
+    std::mt19937 random(7);
+    const auto noBreaks = [](QString text) {
+        return text.remove(u'\n').remove(u'\r').remove(QChar::ParagraphSeparator);
+    };
+    QString line;
+    for (int i = 0; i < 30000; ++i)
+        line += QChar(u"ab <>;"[random() % 6]);
+    box.setText(line.insert(20000, q("\r\n")));
+    const char* const keys[] = {"Q",      "Backspace",  "Del",    "Return", "Ctrl+Z",
+                                "Ctrl+C", "Shift+Left", "Ctrl+X", "Ctrl+V", "Shift+Right, Del"};
+    for (int step = 0; step < 300; ++step) {
+        QTextCursor cursor = view.textCursor();
+        const QTextBlock block = view.document()->findBlockByNumber(
+            int(random() % unsigned(view.document()->blockCount())));
+        const int ends[] = {0, 1, block.length() - 2, block.length() - 1};
+        cursor.setPosition(block.position() +
+                           std::clamp(ends[random() % 4], 0, block.length() - 1));
+        if (random() % 2)
+            cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, 3);
+        view.setTextCursor(cursor);
+        const QString selected = box.selText();
+        const qsizetype sizeBefore = box.text().size();
+        const bool inside = box.selStart() > 0 && box.selStart() < sizeBefore;
+        const char* key = keys[random() % std::size(keys)];
+        QTest::keySequence(&view, QKeySequence(QString::fromLatin1(key)));
+        SCOPED_TRACE(std::to_string(step) + " " + key);
+        if (inside && (key == std::string("Backspace") || key == std::string("Del"))) {
+            ASSERT_LT(box.text().size(), sizeBefore) << "a key next to a cut takes a character";
+        }
+
+        ASSERT_EQ(view.toPlainText(), linebreaks::toDocument(box.text()));
+        if (!selected.isEmpty() && (key == std::string("Ctrl+C") || key == std::string("Ctrl+X"))) {
+            ASSERT_EQ(QGuiApplication::clipboard()->text(), linebreaks::toDocument(selected));
+        }
+        for (QTextBlock b = view.document()->begin(); b.isValid(); b = b.next())
+            ASSERT_LE(b.length(), linebreaks::PositionMap::kLongestLine + 1);
+        cursor.setPosition(view.textCursor().selectionEnd());
+        cursor.setPosition(0, QTextCursor::KeepAnchor);
+        ASSERT_EQ(noBreaks(cursor.selectedText()),
+                  noBreaks(box.text().left(box.selStart() + box.selLength())));
+    }
+    EXPECT_GT(view.document()->blockCount(), 8);
+}
