@@ -123,6 +123,8 @@ TEST(Assistant, LoadFillsTheRecentListAndCaptionsOrHidesBothMenus) {
             EXPECT_EQ(item->isVisible() ? item->text() : "", menus[int(i)]) << i;
     EXPECT_FALSE(assistant.isVisible()) << "loaded hidden, as every form";
 
+    v.run([&] { assistant.listRecent_MouseMove(); });
+    EXPECT_EQ(list.toolTip(), "Selected File:");
     list.setCurrentRow(1);
     v.run([&] { assistant.listRecent_MouseMove(); });
     EXPECT_EQ(list.toolTip(), "Selected File:/p/3.html");
@@ -193,6 +195,7 @@ TEST(Assistant, EnableStartUpFlipsTheSettingAndDontShowAtStartupFailsBeforeWriti
     EXPECT_EQ(failure(v.program), RuntimeFailure::TypeMismatch);
     EXPECT_TRUE(v.program.prompts.asked.empty());
     EXPECT_EQ(appear(v.program), "<absent>");
+    EXPECT_TRUE(v.program.forms->isLoaded<StartUp>());
 }
 
 TEST(Assistant, EachWayToBeginClosesItAndTwoOpenAPage) {
@@ -222,6 +225,8 @@ TEST(Assistant, EachWayToBeginClosesItAndTwoOpenAPage) {
             assistant.window()->findChild<QPushButton*>(name)->click();
         }
         ASSERT_EQ(v.program.pickers.asked.size(), name == "btnOpenExist" ? 1u : 0u);
+        EXPECT_TRUE(name != "btnOpenExist" ||
+                    v.program.pickers.asked[0].kind == PickerRequest::Open);
         EXPECT_EQ(v.zelvo.ui.comdlg.defaultExt,
                   name == "listRecent" || name == "btnOpenExist" ? "html" : "");
         EXPECT_FALSE(v.program.forms->isLoaded<StartUp>());
