@@ -31,28 +31,16 @@ QString ScriptedPrompts::inputBox(const QString& prompt, const QString& title,
 
 namespace {
 
-bool nothingQueued(bool empty, const char* what) {
-    if (empty)
+// The front of a picker's queue, or the value that stands for Cancel when nothing
+// is queued. Moved out before the pop: GCC 12 warns falsely on copies of
+// optional<QString>.
+template <class Queue> typename Queue::value_type take(Queue& queue, const char* what) {
+    typename Queue::value_type value{};
+    if (queue.empty()) {
         ADD_FAILURE() << "nothing queued for the " << what << " picker";
-    return empty;
-}
-
-// Unwrapped before the copy: GCC 12 warns falsely on copies of optional<QString>.
-template <class T> std::optional<T> take(std::deque<std::optional<T>>& queue, const char* what) {
-    if (nothingQueued(queue.empty(), what))
-        return std::nullopt;
-    const bool cancel = !queue.front().has_value();
-    const T value = cancel ? T{} : *queue.front();
-    queue.pop_front();
-    if (cancel)
-        return std::nullopt;
-    return value;
-}
-
-bool take(std::deque<bool>& queue, const char* what) {
-    if (nothingQueued(queue.empty(), what))
-        return false;
-    const bool value = queue.front();
+        return value;
+    }
+    value = std::move(queue.front());
     queue.pop_front();
     return value;
 }
@@ -77,21 +65,6 @@ std::optional<quint32> ScriptedPickers::color(quint32) {
 bool ScriptedPickers::printer() {
     asked.push_back({PickerRequest::Printer, {}});
     return take(printers, "printer");
-}
-
-void MemoryClipboard::setText(const QString& text) {
-    m_text = text;
-    m_html.clear();
-}
-
-void MemoryClipboard::setHtml(const QString& html, const QString& plainText) {
-    m_html = html;
-    m_text = plainText;
-}
-
-void MemoryClipboard::clear() {
-    m_text.clear();
-    m_html.clear();
 }
 
 bool RecordingLauncher::start(const QString& program, const QStringList& arguments) {

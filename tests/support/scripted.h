@@ -54,10 +54,13 @@ public:
 class MemoryClipboard : public Clipboard {
 public:
     QString text() const override { return m_text; }
-    void setText(const QString& text) override;
+    void setText(const QString& text) override { setHtml({}, text); }
     QString html() const override { return m_html; }
-    void setHtml(const QString& html, const QString& plainText) override;
-    void clear() override;
+    void setHtml(const QString& html, const QString& plainText) override {
+        m_html = html;
+        m_text = plainText;
+    }
+    void clear() override { setHtml({}, {}); }
 
 private:
     QString m_text;
