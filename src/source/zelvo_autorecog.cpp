@@ -36,7 +36,7 @@ struct Recognition {
     Recognition {                                                                                  \
         typed, "This looks like " what ". Would you like Zelvo to assist you?", action             \
     }
-#define COMPLETE(typed, completion, back, selected, ...)                                          \
+#define COMPLETE(typed, completion, back, selected, ...)                                           \
     Recognition {                                                                                  \
         typed, nullptr, nullptr, completion, back, selected, __VA_ARGS__                           \
     }
@@ -98,9 +98,9 @@ void Zelvo::autoTagRecognition() {
         if (ui.area.text().mid(p - n, n).toLower() != QLatin1String(test.typed))
             continue;
         if (test.question) {
-            const int answer = services().prompts->msgBox(QString::fromLatin1(test.question),
-                                                          vbYesNo | vbQuestion,
-                                                          QStringLiteral("Assistant: Zelvo"));
+            const int answer =
+                services().prompts->msgBox(QString::fromLatin1(test.question), vbYesNo | vbQuestion,
+                                           QStringLiteral("Assistant: Zelvo"));
             if (answer != vbYes)
                 continue;
             ui.area.setSelStart(p - n);

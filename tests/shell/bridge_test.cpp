@@ -76,7 +76,14 @@ TEST(Bridge, DirtyMarkFromTheVisualSideAndTheReadyTexts) {
     v.area().setText("");
     EXPECT_EQ(v.zelvo.ui.StatusBar1->panelText(3), "Lines: 1");
 
-    // A fragment waits for the tick that puts it into the page.
+    // A fragment waits for the tick that puts it into the page; a second one before
+    // the tick takes its place.
     v.tessara.VisualInsert("<HR>");
+    v.tessara.VisualInsert("<H1>second</H1>");
     EXPECT_TRUE(v.tessara.ui.Timer1.enabled() && v.tessara.ui.Timer1.interval() == 200);
+    v.tessara.ui.Timer1.fire();
+    const QString page = v.txtComp().documentHTML();
+    EXPECT_TRUE(page.contains("second") && !page.contains("<hr", Qt::CaseInsensitive))
+        << page.toStdString();
+    EXPECT_FALSE(v.tessara.ui.Timer1.enabled());
 }
