@@ -36,19 +36,12 @@ TEST(ElementDialogs, FromEachViewTheFragmentGoesWhereTheCallerSaid) {
              d.ui.chkPercentage->setChecked(true);
              d.ui.cmbAlign->setCurrentText("Right");
              d.ui.chkShade->setChecked(true);
-             return v.program.forms->get<rule>();
-         },
-         "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE",
-         R"(one two <HR width="50%" align="Right" NOSHADE>)", "one two three"},
-        {"rule from the visual view", [](BuilderViews& v) { v.tessara.mnuRule(); },
-         [](BuilderViews& v) -> ElementDialog& {
-             rule& d = v.program.forms->get<rule>();
              d.ui.txtSize.setText("3");
              d.ui.txtColour.setText("red");
              return v.program.forms->get<rule>();
          },
-         "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE", "one two three",
-         R"(one <HR color="red" size="3"> three)"},
+         "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE",
+         R"(one two <HR width="50%" align="Right" color="red" size="3" NOSHADE>)", "one two three"},
         {"heading from the source view", [](BuilderViews& v) { v.zelvo.mnuHeading(); },
          [](BuilderViews& v) -> ElementDialog& {
              heading& d = v.program.forms->get<heading>();
@@ -73,9 +66,16 @@ TEST(ElementDialogs, FromEachViewTheFragmentGoesWhereTheCallerSaid) {
          [](BuilderViews& v) -> ElementDialog& {
              highlight& d = v.program.forms->get<highlight>();
              EXPECT_EQ(d.ui.txthighlight.text(), "one");
-             v.program.pickers.colors = {0xFFFF00};
+             // Black is nothing taken; a colour shows in the box too.
+             v.program.pickers.colors = {0, 0xFFFF00};
+             const quint32 before = d.ui.txtColourView->backColor();
+             d.ui.txtColour.setText("typed");
+             d.ui.openColor->click();
+             EXPECT_EQ(d.ui.txtColour.text(), "typed");
+             EXPECT_EQ(d.ui.txtColourView->backColor(), before);
              d.ui.openColor->click();
              EXPECT_EQ(d.ui.txtColour.text(), "#00FFFF");
+             EXPECT_EQ(d.ui.txtColourView->backColor(), 0xFFFF00u);
              d.ui.txtColour.setText("#ff0000");
              return v.program.forms->get<highlight>();
          },
@@ -104,9 +104,7 @@ TEST(ElementDialogs, FromEachViewTheFragmentGoesWhereTheCallerSaid) {
         if (v.tessara.ui.Timer1.enabled())
             v.tick();
         EXPECT_EQ(v.page().bodyContent(), c.page) << c.what;
-        EXPECT_FALSE(v.loaded<rule>()) << c.what;
-        EXPECT_FALSE(v.loaded<heading>()) << c.what;
-        EXPECT_FALSE(v.loaded<highlight>()) << c.what;
+        EXPECT_FALSE(v.loaded<rule>() || v.loaded<heading>() || v.loaded<highlight>()) << c.what;
         EXPECT_TRUE(v.program.failures.empty()) << c.what;
     }
 }

@@ -1,16 +1,12 @@
 #include "builderkit.h"
 
-#include "builders/colours.h"
 #include "builders/elementdialog.h"
 #include "builders/rule.h"
 #include "pagehelpers/jsconsole.h"
 
-#include "platform/commondialog.h"
 #include "platform/textlineview.h"
 
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
+#include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
 
@@ -121,54 +117,6 @@ TEST(Protocol, ARequiredFieldLeftEmptyIsWarnedOfAndKeepsTheDialog) {
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(dialog.window()->focusWidget(), dialog.ui.txtNameView);
     EXPECT_EQ(v.area().text(), "");
-}
-
-TEST(Protocol, ColourButtonOfAColourList) {
-    using Picks = std::deque<std::optional<quint32>>;
-    const struct {
-        const char* what;
-        Picks picks;
-        QString text;
-    } cases[] = {
-        {"black empties the list's text", {0}, ""},
-        {"cancel on first use empties it too", {std::nullopt}, ""},
-        {"a cancel takes the earlier colour again", {0x00FF00, std::nullopt}, "#00FF00"},
-    };
-    for (const auto& c : cases) {
-        ScriptedPickers pickers;
-        pickers.colors = c.picks;
-        CommonDialog comdlg(pickers);
-        QComboBox* colours = nullptr;
-        std::unique_ptr<QWidget> made(combo("cmbcolour", colours, namedColours()).make(nullptr));
-        for (std::size_t i = 0; i < c.picks.size(); ++i) {
-            colours->setEditText("none");
-            pickHexColour(comdlg, *colours);
-        }
-        EXPECT_EQ(colours->currentText(), c.text) << c.what;
-        EXPECT_EQ(colours->count(), 16) << c.what;
-    }
-}
-
-// Typed into the focused box key by key, the text stays as typed: not completed to a
-// row, and not corrected to a row's case when the box loses the focus.
-TEST(Protocol, ACombosTypedTextStaysAsTyped) {
-    for (const QString typed : {"Cent", "center", "Right"}) {
-        BuilderViews v;
-        v.zelvo.show();
-        v.run([&] { v.zelvo.mnuHR(); });
-        rule& dialog = v.program.forms->get<rule>();
-        QApplication::setActiveWindow(dialog.window());
-        QLineEdit* edit = dialog.ui.cmbAlign->lineEdit();
-        edit->setFocus();
-        ASSERT_TRUE(edit->hasFocus());
-        edit->clear();
-        type(edit, typed);
-        EXPECT_EQ(dialog.ui.cmbAlign->currentText(), typed);
-        dialog.ui.txtWidthView->setFocus();
-        EXPECT_EQ(dialog.ui.cmbAlign->currentText(), typed);
-        v.run([&] { dialog.ui.OKButton->click(); });
-        EXPECT_EQ(v.area().text(), "<HR align=\"" + typed + "\">");
-    }
 }
 
 TEST(Protocol, ADialogOpensCentredOverTheViewOrTheScreen) {
