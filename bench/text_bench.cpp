@@ -87,6 +87,22 @@ QString pageForTyping(bool longLine) {
 // the repaint. Runs type "x" and take it back with Backspace in turn, so the page
 // stays the same. Places: the top, the middle and the end of the page, or with the
 // long line its start, middle and end.
+// Types "x" and takes it back with Backspace in turn at the caret, so the page stays
+// the same.
+void typeAndTakeBack(benchmark::State& state, QWidget* editor, zt::TextControl& area) {
+    const qsizetype size = area.text().size();
+    QKeyEvent typeX(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+    QKeyEvent backspace(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier);
+    bool typed = false;
+    for (auto _ : state) {
+        QCoreApplication::sendEvent(editor, typed ? &backspace : &typeX);
+        QCoreApplication::processEvents();
+        typed = !typed;
+    }
+    if (area.text().size() != size + (typed ? 1 : 0))
+        state.SkipWithError("the keys did not reach the text");
+}
+
 void keystroke(benchmark::State& state) {
     const bool longLine = state.range(0) != 0;
     const int place = int(state.range(1));
@@ -97,19 +113,31 @@ void keystroke(benchmark::State& state) {
     const qsizetype from = longLine ? kPageSize - kLongLine : 0;
     v.area().setSelStart(int(from + (kPageSize - from) * place / 2));
     QCoreApplication::processEvents();
-
-    QKeyEvent typeX(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
-    QKeyEvent backspace(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier);
-    bool typed = false;
-    for (auto _ : state) {
-        QCoreApplication::sendEvent(editor, typed ? &backspace : &typeX);
-        QCoreApplication::processEvents();
-        typed = !typed;
-    }
-    if (v.area().text().size() != kPageSize + (typed ? 1 : 0))
-        state.SkipWithError("the keys did not reach the text");
+    typeAndTakeBack(state, editor, v.area());
     static const char* const places[] = {"top", "middle", "end"};
     state.SetLabel(std::string(longLine ? "long line " : "lines ") + places[place]);
+    editor->window()->hide();
+}
+
+// The same on a 1 MB page, with Auto Tag Recognition off and on, at the top, the
+// middle and the end: what the recognition adds to a key.
+void keystrokeWithRecognition(benchmark::State& state) {
+    const bool recognition = state.range(0) != 0;
+    const int place = int(state.range(1));
+    constexpr qsizetype kSize = 1024 * 1024;
+    zt::test::Views& v = views();
+    QWidget* editor = v.zelvo.ui.areaView;
+    editor->window()->show();
+    v.zelvo.ui.mnuAutoRecog->setCheckable(true);
+    v.zelvo.ui.mnuAutoRecog->setChecked(recognition);
+    v.area().setText(documentOfSize(kSize));
+    v.area().setSelStart(int(kSize * place / 2));
+    QCoreApplication::processEvents();
+    typeAndTakeBack(state, editor, v.area());
+    static const char* const places[] = {"top", "middle", "end"};
+    state.SetLabel(std::string(recognition ? "1 MB, recognition on, " : "1 MB, off, ") +
+                   places[place]);
+    v.zelvo.ui.mnuAutoRecog->setChecked(false);
     editor->window()->hide();
 }
 
@@ -120,4 +148,8 @@ BENCHMARK(boldWrapAndUnwrapInTheSourceView)->Unit(benchmark::kMicrosecond);
 BENCHMARK(keystroke)
     ->ArgsProduct({{0, 1}, {0, 1, 2}})
     ->ArgNames({"longLine", "place"})
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(keystrokeWithRecognition)
+    ->ArgsProduct({{0, 1}, {0, 1, 2}})
+    ->ArgNames({"recognition", "place"})
     ->Unit(benchmark::kMicrosecond);

@@ -32,50 +32,53 @@ struct Recognition {
     bool beep = false;
 };
 
-#define OFFER(typed, what, action)                                                                 \
-    Recognition {                                                                                  \
-        typed, "This looks like " what ". Would you like Zelvo to assist you?", action             \
-    }
-#define COMPLETE(typed, completion, back, selected, ...)                                           \
-    Recognition {                                                                                  \
-        typed, nullptr, nullptr, completion, back, selected, __VA_ARGS__                           \
-    }
+Recognition offer(const char* typed, const char* question, void (Zelvo::*action)()) {
+    return {.typed = typed, .question = question, .action = action};
+}
+Recognition complete(const char* typed, const char* completion, int back, bool beep = false) {
+    return {.typed = typed, .completion = completion, .back = back, .selected = back, .beep = beep};
+}
 
 // All run at each Change, in this order, with no early end. The completion of
 // </bl goes back one more than it put in, and selects from the l typed; only red
 // beeps; and since the caret is read once, gr completes to green and then, tested
 // again, to gray, which always wins.
 const std::array kRecognitions{
-    OFFER("<tab", "a table tag", &Zelvo::tableMenuAtPointer),
-    OFFER("<tr", "a table row", &Zelvo::mnuinsrowcol),
-    OFFER("<img", "an image tag", &Zelvo::mnuImage),
-    OFFER("<ul", "a bulletted list", &Zelvo::mnuBullets),
-    OFFER("<ol", "a numbered list", &Zelvo::mnuNumbering),
-    OFFER("<a h", "a hyperlink", &Zelvo::mnuHyperlink),
-    OFFER("<a n", "a anchor tag", &Zelvo::mnuBookmarks),
-    COMPLETE("<blo", "ckquote>", 8, 8),
-    COMPLETE("</bl", "ockquote>", 10, 10),
-    OFFER("<input", "a form element", &Zelvo::formMenuAtPointer),
-    COMPLETE("color=\"r", "ed\"", 3, 3, true),
-    COMPLETE("color=\"t", "eal\"", 4, 4),
-    COMPLETE("color=\"y", "ellow\"", 6, 6),
-    COMPLETE("color=\"f", "uchsia\"", 7, 7),
-    COMPLETE("color=\"l", "ime\"", 4, 4),
-    COMPLETE("color=\"m", "aroon\"", 6, 6),
-    COMPLETE("color=\"a", "qua\"", 4, 4),
-    COMPLETE("color=\"o", "live\"", 5, 5),
-    COMPLETE("color=\"p", "urple\"", 6, 6),
-    COMPLETE("color=\"s", "ilver\"", 6, 6),
-    COMPLETE("color=\"n", "avy\"", 4, 4),
-    COMPLETE("color=\"w", "hite\"", 5, 5),
-    COMPLETE("color=\"bla", "ck\"", 3, 3),
-    COMPLETE("color=\"blu", "e\"", 2, 2),
-    COMPLETE("color=\"gr", "een\"", 4, 4),
-    COMPLETE("color=\"gr", "ay\"", 4, 4),
+    offer("<tab", "This looks like a table tag. Would you like Zelvo to assist you?",
+          &Zelvo::tableMenuAtPointer),
+    offer("<tr", "This looks like a table row. Would you like Zelvo to assist you?",
+          &Zelvo::mnuinsrowcol),
+    offer("<img", "This looks like an image tag. Would you like Zelvo to assist you?",
+          &Zelvo::mnuImage),
+    offer("<ul", "This looks like a bulletted list. Would you like Zelvo to assist you?",
+          &Zelvo::mnuBullets),
+    offer("<ol", "This looks like a numbered list. Would you like Zelvo to assist you?",
+          &Zelvo::mnuNumbering),
+    offer("<a h", "This looks like a hyperlink. Would you like Zelvo to assist you?",
+          &Zelvo::mnuHyperlink),
+    offer("<a n", "This looks like a anchor tag. Would you like Zelvo to assist you?",
+          &Zelvo::mnuBookmarks),
+    complete("<blo", "ckquote>", 8),
+    complete("</bl", "ockquote>", 10),
+    offer("<input", "This looks like a form element. Would you like Zelvo to assist you?",
+          &Zelvo::formMenuAtPointer),
+    complete("color=\"r", "ed\"", 3, true),
+    complete("color=\"t", "eal\"", 4),
+    complete("color=\"y", "ellow\"", 6),
+    complete("color=\"f", "uchsia\"", 7),
+    complete("color=\"l", "ime\"", 4),
+    complete("color=\"m", "aroon\"", 6),
+    complete("color=\"a", "qua\"", 4),
+    complete("color=\"o", "live\"", 5),
+    complete("color=\"p", "urple\"", 6),
+    complete("color=\"s", "ilver\"", 6),
+    complete("color=\"n", "avy\"", 4),
+    complete("color=\"w", "hite\"", 5),
+    complete("color=\"bla", "ck\"", 3),
+    complete("color=\"blu", "e\"", 2),
+    complete("color=\"gr", "een\"", 4),
+    complete("color=\"gr", "ay\"", 4),
 };
-
-#undef OFFER
-#undef COMPLETE
 
 // Nothing is recognised in the first ten characters of the text.
 constexpr int kFirstPosition = 11;
