@@ -8,8 +8,6 @@ namespace zt {
 void Zelvo::mnuPreview() {}
 void Zelvo::mnuPageSetup() {}
 void Zelvo::mnuPrint() {}
-void Zelvo::mnuFind() {}
-void Zelvo::mnuFindNext() {}
 void Zelvo::mnuViewPreview() {}
 void Zelvo::mnuColourPicker() {}
 void Zelvo::mnuMetaGen() {}
@@ -38,10 +36,7 @@ void Zelvo::mnuHyperlink() {}
 void Zelvo::mnuLinkMail() {}
 void Zelvo::mnuBookmarks() {}
 void Zelvo::mnuRectangularBox() {}
-void Zelvo::mnusmartsel() {}
 void Zelvo::mnuSpell() {}
-void Zelvo::mnuAutoDelete() {}
-void Zelvo::mnuFindEndTag() {}
 void Zelvo::mnuShowTempClip() {}
 void Zelvo::mnuCopyToTemp() {}
 void Zelvo::mnuRestore() {}
@@ -70,6 +65,5 @@ void Zelvo::mnuHTMLtutorial() {}
 void Zelvo::mnuTipOfDay() {}
 void Zelvo::mnuAuthorOnline() {}
 void Zelvo::mnuAbout() {}
-void Zelvo::showFindMe() {}
 
 } // namespace zt
