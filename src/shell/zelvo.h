@@ -379,7 +379,6 @@ private:
     void Form_Resize();
     void buildTagList(QWidget* central);
     void useLibrary(const QString& file, QPushButton* chosen, QPushButton* other);
-    void popUpAtPointer(QAction* menu);
     void fillTagList(const QStringList& lines);
     // The selected line of the tag list; empty when none is.
     QString selectedTagLine() const;

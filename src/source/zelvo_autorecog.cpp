@@ -27,8 +27,8 @@ struct Recognition {
     const char* question = nullptr;
     void (Zelvo::*action)() = nullptr;
     const char* completion = nullptr;
+    // How far the caret goes back after the completion, and how much it then selects.
     int back = 0;
-    int selected = 0;
     bool beep = false;
 };
 
@@ -36,7 +36,7 @@ Recognition offer(const char* typed, const char* question, void (Zelvo::*action)
     return {.typed = typed, .question = question, .action = action};
 }
 Recognition complete(const char* typed, const char* completion, int back, bool beep = false) {
-    return {.typed = typed, .completion = completion, .back = back, .selected = back, .beep = beep};
+    return {.typed = typed, .completion = completion, .back = back, .beep = beep};
 }
 
 // All run at each Change, in this order, with no early end. The completion of
@@ -113,7 +113,7 @@ void Zelvo::autoTagRecognition() {
         } else {
             ui.area.setSelText(QString::fromLatin1(test.completion));
             ui.area.setSelStart(ui.area.selStart() - test.back);
-            ui.area.setSelLength(test.selected);
+            ui.area.setSelLength(test.back);
             if (test.beep)
                 services().desktop->beep();
         }

@@ -10,11 +10,8 @@
 #include "platform/texteditview.h"
 #include "platform/textfiles.h"
 
-#include <QAction>
-#include <QCursor>
 #include <QFileInfo>
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 
 namespace zt {
@@ -49,11 +46,6 @@ void Zelvo::useLibrary(const QString& file, QPushButton* chosen, QPushButton* ot
     ui.areaView->setFocus();
 }
 
-void Zelvo::popUpAtPointer(QAction* menu) {
-    menu->menu()->popup(QCursor::pos());
-    ui.areaView->setFocus();
-}
-
 void Zelvo::btnQBHtml_Click() {
     useLibrary(QStringLiteral("htmlRef.lib"), ui.btnQBHtml, ui.btnQBCss);
 }
@@ -63,11 +55,13 @@ void Zelvo::btnQBCss_Click() {
 }
 
 void Zelvo::btnQBForms_Click() {
-    popUpAtPointer(ui.mnuForm);
+    formMenuAtPointer();
+    ui.areaView->setFocus();
 }
 
 void Zelvo::btnQBTables_Click() {
-    popUpAtPointer(ui.mnutable);
+    tableMenuAtPointer();
+    ui.areaView->setFocus();
 }
 
 } // namespace zt
