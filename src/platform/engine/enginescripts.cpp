@@ -15,11 +15,18 @@ QString resource(const QString& name) {
 }
 
 // All of our functions, each call defining them afresh: the page's world keeps
-// nothing of ours between calls, and a page load cannot lose them.
+// nothing of ours between calls, and a page load cannot lose them. What a script
+// keeps for later (the edit history, an overlay) it keeps on the window, which
+// lives as long as the document. editing.js makes the table of commands that the
+// scripts after it add to.
 const QString& library() {
-    static const QString text = resource(QStringLiteral("serialize.js")) + u'\n' +
-                                resource(QStringLiteral("editing.js")) + u'\n' +
-                                resource(QStringLiteral("load.js"));
+    static const QString text = [] {
+        QString all;
+        for (const char* name :
+             {"serialize.js", "editing.js", "history.js", "formatting.js", "load.js"})
+            all += resource(QString::fromLatin1(name)) + u'\n';
+        return all;
+    }();
     return text;
 }
 

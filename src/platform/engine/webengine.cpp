@@ -44,6 +44,40 @@ constexpr std::chrono::milliseconds kProbeInterval = 10ms;
 
 const QString kBlankPage = QStringLiteral("<HTML><HEAD></HEAD><BODY></BODY></HTML>");
 
+// The commands that are one command of our scripts each, by the script's name for
+// it. A command that edits is refused in browse mode.
+struct ScriptCommand {
+    DhtmlCommand id;
+    const char* name;
+    bool edits = true;
+};
+
+const ScriptCommand* scriptCommand(DhtmlCommand id) {
+    static const ScriptCommand commands[] = {
+        {DECMD_SELECTALL, "selectAll", false},
+        {DECMD_DELETE, "remove"},
+        {DECMD_UNDO, "undo"},
+        {DECMD_REDO, "redo"},
+        {DECMD_BOLD, "bold"},
+        {DECMD_ITALIC, "italic"},
+        {DECMD_UNDERLINE, "underline"},
+        {DECMD_REMOVEFORMAT, "removeFormat"},
+        {DECMD_UNLINK, "unlink"},
+        {DECMD_ORDERLIST, "insertOrderedList"},
+        {DECMD_UNORDERLIST, "insertUnorderedList"},
+        {DECMD_INDENT, "indent"},
+        {DECMD_OUTDENT, "outdent"},
+        {DECMD_JUSTIFYLEFT, "justifyLeft"},
+        {DECMD_JUSTIFYCENTER, "justifyCenter"},
+        {DECMD_JUSTIFYRIGHT, "justifyRight"},
+    };
+    for (const ScriptCommand& command : commands) {
+        if (command.id == id)
+            return &command;
+    }
+    return nullptr;
+}
+
 QByteArray servedBytes(const QString& html) {
     // The byte order mark decides the encoding over anything the page declares: the
     // text is already decoded, whatever its meta tags say.
@@ -129,9 +163,6 @@ void WebPageEngine::setDocumentHTML(const QString& html) {
 
 void WebPageEngine::execCommand(DhtmlCommand id) {
     switch (id) {
-    case DECMD_SELECTALL:
-        edit(QStringLiteral("selectAll"));
-        return;
     case DECMD_COPY:
         copyToClipboard(edit(QStringLiteral("copy")));
         return;
@@ -139,26 +170,21 @@ void WebPageEngine::execCommand(DhtmlCommand id) {
         requireEditable();
         copyToClipboard(edit(QStringLiteral("cut")));
         return;
-    case DECMD_DELETE:
-        requireEditable();
-        edit(QStringLiteral("remove"));
-        return;
     case DECMD_PASTE: {
         requireEditable();
         const QString html = pagetext::htmlToPaste(m_clipboard);
         edit(QStringLiteral("paste"), {{"html", html}});
         return;
     }
-    // Still to come, each as the engine's own editing action where it has one:
-    // BOLD, ITALIC, UNDERLINE, REMOVEFORMAT, UNLINK, ORDERLIST, UNORDERLIST, INDENT,
-    // OUTDENT, JUSTIFYLEFT, JUSTIFYCENTER, JUSTIFYRIGHT, UNDO, REDO; as scripts of
-    // ours: INSERTTABLE, INSERTROW, INSERTCOL, INSERTCELL, DELETEROWS, DELETECOLS,
-    // DELETECELLS, MERGECELLS, SPLITCELL and the z-order commands BRING_TO_FRONT,
-    // BRING_FORWARD, BRING_ABOVE_TEXT, SEND_TO_BACK, SEND_BACKWARD, SEND_BELOW_TEXT;
-    // as dialogs of ours: FONT, IMAGE, HYPERLINK, FINDTEXT.
     default:
-        throw RuntimeFailure::invalidProcedureCall();
+        break;
     }
+    const ScriptCommand* command = scriptCommand(id);
+    if (!command)
+        throw RuntimeFailure::invalidProcedureCall();
+    if (command->edits)
+        requireEditable();
+    edit(QLatin1String(command->name));
 }
 
 void WebPageEngine::loadDocument(const QString& path) {

@@ -159,8 +159,14 @@ const ztCommands = {
     },
 };
 
+// The commands that only read the page or move the selection. Every other command
+// is an edit, recorded in the page's history so that Undo takes it back.
+const ztReadingCommands = new Set(['selectAll', 'copy', 'selectText', 'undo', 'redo']);
+
 // args: command, the name of one of ztCommands, and what it needs.
 function ztEdit(args) {
     const command = ztCommands[args.command];
-    return command ? command(args) : {ok: false};
+    if (!command)
+        return {ok: false};
+    return ztReadingCommands.has(args.command) ? command(args) : ztRecorded(() => command(args));
 }

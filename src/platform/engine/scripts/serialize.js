@@ -69,6 +69,13 @@ function ztIsGeneratorMeta(node) {
         (node.getAttribute('name') || '').trim().toLowerCase() === 'generator';
 }
 
+// What the engine itself shows in the page (outlines, markers, handles) is an
+// element named zt-something: never part of the document, never written, never
+// recorded in its history.
+function ztIsOwn(node) {
+    return node.nodeType === Node.ELEMENT_NODE && node.localName.startsWith('zt-');
+}
+
 function ztSameAttributes(a, b) {
     if (a.attributes.length !== b.attributes.length)
         return false;
@@ -151,6 +158,8 @@ function ztWriter(options) {
     }
 
     function write(node) {
+        if (ztIsOwn(node))
+            return;
         switch (node.nodeType) {
         case Node.ELEMENT_NODE:
             element(node);
@@ -211,7 +220,8 @@ function ztWriter(options) {
                 headWritten = true;
             } else if (child.localName === 'body') {
                 body(child);
-            } else if (child.nodeType !== Node.TEXT_NODE || !ztIsBlank(child.data)) {
+            } else if (!ztIsOwn(child) &&
+                       (child.nodeType !== Node.TEXT_NODE || !ztIsBlank(child.data))) {
                 line(child);
             }
         }
