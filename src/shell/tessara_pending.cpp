@@ -12,7 +12,6 @@ void Tessara::mnuPrint() {}
 void Tessara::mnuPreview() {}
 void Tessara::mnuColourPicker() {}
 void Tessara::mnuMetaGen() {}
-void Tessara::mnuLink() {}
 void Tessara::mnuInsRectBox() {}
 void Tessara::mnuPageTitle() {}
 void Tessara::mnuMorvane() {}

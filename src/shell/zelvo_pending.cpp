@@ -32,9 +32,6 @@ void Zelvo::mnuDropDown() {}
 void Zelvo::mnuFileUpload() {}
 void Zelvo::mnuFieldset() {}
 void Zelvo::mnuHidden() {}
-void Zelvo::mnuHyperlink() {}
-void Zelvo::mnuLinkMail() {}
-void Zelvo::mnuBookmarks() {}
 void Zelvo::mnuRectangularBox() {}
 void Zelvo::mnuSpell() {}
 void Zelvo::mnuShowTempClip() {}

@@ -173,7 +173,9 @@ void MemoryEngine::runFormatting(DhtmlCommand id) {
     if (wrap.isEmpty() && !tableCommands.contains(id) && !zOrderCommands.contains(id) &&
         !otherCommands.contains(id))
         throw RuntimeFailure::invalidProcedureCall();
-    requireSelection();
+    // Find looks through the whole page from wherever the selection is, or none.
+    if (id != DECMD_FINDTEXT)
+        requireSelection();
     if (tableCommands.contains(id) &&
         !insideOf(QStringLiteral("<t[dh](?=[\\s>])"), QStringLiteral("</t[dh]>")))
         throw RuntimeFailure::invalidProcedureCall();
