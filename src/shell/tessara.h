@@ -54,8 +54,8 @@ public:
     // Toolbar1: a click dispatches on the button's key; a failure is passed over.
     void Toolbar1_ButtonClick(const QString& key);
 
-    // Commands whose work comes with later parts of the program: each is the
-    // named entry point of its menu item or key and does nothing yet.
+    // The commands of the menus, keys and buttons, each under its menu item's name.
+    // Those still in tessara_pending.cpp do nothing yet.
     void mnuPrev();
     void mnuPrevIE();
     void mnuPageSetup();
