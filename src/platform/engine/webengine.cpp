@@ -70,6 +70,12 @@ const ScriptCommand* scriptCommand(DhtmlCommand id) {
         {DECMD_JUSTIFYLEFT, "justifyLeft"},
         {DECMD_JUSTIFYCENTER, "justifyCenter"},
         {DECMD_JUSTIFYRIGHT, "justifyRight"},
+        {DECMD_BRING_TO_FRONT, "bringToFront"},
+        {DECMD_BRING_FORWARD, "bringForward"},
+        {DECMD_BRING_ABOVE_TEXT, "bringAboveText"},
+        {DECMD_SEND_TO_BACK, "sendToBack"},
+        {DECMD_SEND_BACKWARD, "sendBackward"},
+        {DECMD_SEND_BELOW_TEXT, "sendBelowText"},
     };
     for (const ScriptCommand& command : commands) {
         if (command.id == id)
