@@ -56,9 +56,9 @@ public:
     bool browseMode() const override { return m_browseMode; }
     void setBrowseMode(bool on) override;
     bool showDetails() const override { return m_showDetails; }
-    void setShowDetails(bool on) override { m_showDetails = on; }
+    void setShowDetails(bool on) override;
     bool snapToGrid() const override { return m_snapToGrid; }
-    void setSnapToGrid(bool on) override { m_snapToGrid = on; }
+    void setSnapToGrid(bool on) override;
 
     void setFocus() override;
     bool isVisible() const override;
@@ -91,6 +91,7 @@ private:
     QString serialize(bool withMarker, std::chrono::milliseconds deadline);
     void copyToClipboard(const QVariantMap& answer);
     void requireEditable() const;
+    void tellSurface();
     bool showsOwnPage() const;
     void scheduleDisplayChanged();
     void watchInput();
