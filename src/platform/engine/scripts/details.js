@@ -155,8 +155,7 @@ function ztChangesPage(record) {
 function ztSetDetails(args) {
     const details = ztDetails();
     details.on = args.on;
-    const others = document.adoptedStyleSheets.filter(sheet => sheet !== details.outlines);
-    document.adoptedStyleSheets = details.on ? others.concat(details.outlines) : others;
+    ztAdopt(details.outlines, details.on);
     if (!details.observer) {
         details.observer = new MutationObserver(records => {
             if (records.some(ztChangesPage))

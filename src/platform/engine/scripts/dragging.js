@@ -11,6 +11,8 @@ const ztGridStep = 10;
 
 function ztMover() {
     if (!window.ztMoverState) {
+        // The move cursor is a sheet of our own, switched in and out, so hovering
+        // never touches the page's nodes.
         const cursor = new CSSStyleSheet();
         cursor.replaceSync('* { cursor: move !important; }');
         window.ztMoverState = {enabled: false, snap: false, hover: null, drag: null, cursor};
@@ -43,13 +45,6 @@ function ztEdgeAt(x, y) {
     return null;
 }
 
-// The cursor is a sheet of our own, switched in and out, so the page's nodes are
-// never touched by hovering.
-function ztShowMoveCursor(mover, on) {
-    const sheets = document.adoptedStyleSheets.filter(sheet => sheet !== mover.cursor);
-    document.adoptedStyleSheets = on ? sheets.concat(mover.cursor) : sheets;
-}
-
 function ztSnapped(mover, value) {
     return mover.snap ? Math.round(value / ztGridStep) * ztGridStep : Math.round(value);
 }
@@ -68,7 +63,7 @@ function ztPointerMoved(event) {
                       ? ztEdgeAt(event.clientX, event.clientY)
                       : null;
     if ((hover === null) !== (mover.hover === null))
-        ztShowMoveCursor(mover, hover !== null);
+        ztAdopt(mover.cursor, hover !== null);
     mover.hover = hover;
 }
 
@@ -109,7 +104,7 @@ function ztSetMover(args) {
     // A new page, or a surface that stops moving boxes, starts with no drag.
     mover.drag = null;
     mover.hover = null;
-    ztShowMoveCursor(mover, false);
+    ztAdopt(mover.cursor, false);
     if (!window.ztMoverListening) {
         window.ztMoverListening = true;
         window.addEventListener('mousemove', ztPointerMoved, true);

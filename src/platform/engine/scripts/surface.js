@@ -8,3 +8,10 @@ function ztSetSurface(args) {
     ztSetDetails({on: args.editing && args.details});
     return {ok: true};
 }
+
+// Our sheets are adopted by the document rather than put into it: no node of the
+// page changes, and none is written or recorded.
+function ztAdopt(sheet, on) {
+    const others = document.adoptedStyleSheets.filter(adopted => adopted !== sheet);
+    document.adoptedStyleSheets = on ? others.concat(sheet) : others;
+}
