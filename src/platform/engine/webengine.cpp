@@ -71,6 +71,12 @@ const ScriptCommand* scriptCommand(DhtmlCommand id) {
         {DECMD_JUSTIFYLEFT, "justifyLeft"},
         {DECMD_JUSTIFYCENTER, "justifyCenter"},
         {DECMD_JUSTIFYRIGHT, "justifyRight"},
+        {DECMD_BRING_TO_FRONT, "bringToFront"},
+        {DECMD_BRING_FORWARD, "bringForward"},
+        {DECMD_BRING_ABOVE_TEXT, "bringAboveText"},
+        {DECMD_SEND_TO_BACK, "sendToBack"},
+        {DECMD_SEND_BACKWARD, "sendBackward"},
+        {DECMD_SEND_BELOW_TEXT, "sendBelowText"},
     };
     for (const ScriptCommand& command : commands) {
         if (command.id == id)
@@ -110,6 +116,8 @@ WebPageEngine::WebPageEngine(Clipboard& clipboard, QWidget* parent)
         if (!m_browseMode && !showsOwnPage())
             m_page->runJavaScript(enginescripts::call("ztSetEditable", {{"editable", true}}),
                                   QWebEngineScript::ApplicationWorld);
+        if (!m_browseMode)
+            tellSurface();
         scheduleDisplayChanged();
     });
     connect(m_page, &QWebEnginePage::selectionChanged, this,
@@ -236,10 +244,24 @@ void WebPageEngine::setBrowseMode(bool on) {
     QWebEngineSettings* settings = page()->settings();
     settings->setAttribute(QWebEngineSettings::JavascriptEnabled, on);
     m_policy->setWebAllowed(on);
-    if (ownPage)
+    if (ownPage) {
         showPage(text);
-    else
+    } else {
         runScript("ztSetEditable", {{"editable", !on}});
+        tellSurface();
+    }
+}
+
+void WebPageEngine::setShowDetails(bool on) {
+    m_showDetails = on;
+    if (!m_browseMode)
+        tellSurface();
+}
+
+void WebPageEngine::setSnapToGrid(bool on) {
+    m_snapToGrid = on;
+    if (!m_browseMode)
+        tellSurface();
 }
 
 void WebPageEngine::setFocus() {
@@ -419,6 +441,7 @@ void WebPageEngine::showPage(const QString& html) {
         const QVariantMap answer =
             runScript("ztLoadPage", {{"html", html}, {"editable", true}}).toMap();
         if (answer.value(QStringLiteral("loaded")).toBool()) {
+            tellSurface();
             scheduleDisplayChanged();
             return;
         }
@@ -496,6 +519,21 @@ void WebPageEngine::showContextMenu(const QPoint& at) {
 void WebPageEngine::requireEditable() const {
     if (m_browseMode)
         throw RuntimeFailure::invalidProcedureCall();
+}
+
+// Snap and details reach the page without a wait: the menu commands that set them
+// have no failure to end in, and the page's next script runs after this one. A
+// page that comes later is told again when it is there.
+void WebPageEngine::tellSurface() {
+    if (!m_page)
+        return;
+    const QJsonObject args{
+        {"editing", !m_browseMode},
+        {"snap", m_snapToGrid},
+        {"details", m_showDetails},
+    };
+    m_page->runJavaScript(enginescripts::call("ztSetSurface", args),
+                          QWebEngineScript::ApplicationWorld);
 }
 
 bool WebPageEngine::showsOwnPage() const {

@@ -56,9 +56,9 @@ public:
     bool browseMode() const override { return m_browseMode; }
     void setBrowseMode(bool on) override;
     bool showDetails() const override { return m_showDetails; }
-    void setShowDetails(bool on) override { m_showDetails = on; }
+    void setShowDetails(bool on) override;
     bool snapToGrid() const override { return m_snapToGrid; }
-    void setSnapToGrid(bool on) override { m_snapToGrid = on; }
+    void setSnapToGrid(bool on) override;
 
     void setFocus() override;
     bool isVisible() const override;
@@ -92,6 +92,7 @@ private:
     void copyToClipboard(const QVariantMap& answer);
     void showContextMenu(const QPoint& at);
     void requireEditable() const;
+    void tellSurface();
     bool showsOwnPage() const;
     void scheduleDisplayChanged();
     void watchInput();
