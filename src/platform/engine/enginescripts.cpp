@@ -22,8 +22,8 @@ QString resource(const QString& name) {
 const QString& library() {
     static const QString text = [] {
         QString all;
-        for (const char* name :
-             {"serialize.js", "editing.js", "history.js", "formatting.js", "load.js"})
+        for (const char* name : {"serialize.js", "editing.js", "history.js", "formatting.js",
+                                 "pagedialogs.js", "load.js"})
             all += resource(QString::fromLatin1(name)) + u'\n';
         return all;
     }();

@@ -90,6 +90,7 @@ private:
     bool loadShell();
     QString serialize(bool withMarker, std::chrono::milliseconds deadline);
     void copyToClipboard(const QVariantMap& answer);
+    void runDialog(DhtmlCommand id);
     void requireEditable() const;
     bool showsOwnPage() const;
     void scheduleDisplayChanged();
