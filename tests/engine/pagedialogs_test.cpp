@@ -257,7 +257,8 @@ TEST_F(PageDialogs, FontPictureAndLinkApplyWhatTheUserChose) {
 }
 
 TEST_F(PageDialogs, FindSelectsMatchAfterMatchAndGoesRoundThePage) {
-    const char* const page = "<p>Word word sword <b>wo</b>rd</p><p>end</p>";
+    const char* const page =
+        "<p>Word word sword <b>wo</b>rd</p><textarea>word</textarea><p>end</p>";
     show(page, "select('Word', 0, 0)");
     const std::string before = body();
     const struct {

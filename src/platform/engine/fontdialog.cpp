@@ -37,6 +37,7 @@ FontDialog::FontDialog(QWidget* parent, const QVariantMap& state)
     m_face->setEditable(true);
     m_face->setInsertPolicy(QComboBox::NoInsert);
     m_face->setCompleter(nullptr);
+    m_face->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_face->addItems(QFontDatabase::families());
     m_face->setEditText(state.value("face").toString());
     form()->addRow(QStringLiteral("&Face:"), m_face);

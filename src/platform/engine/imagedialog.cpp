@@ -69,8 +69,12 @@ ImageDialog::ImageDialog(QWidget* parent, const QString& folder, const QVariantM
         } else {
             field = addField(attribute.control, label, value);
         }
-        if (m_fields.size() >= 2)
+        if (m_fields.size() >= 2) {
             field->setValidator(new QRegularExpressionValidator(size, field));
+            field->setMinimumWidth(0);
+            field->setMaximumWidth(
+                field->fontMetrics().horizontalAdvance(QStringLiteral("000000%")) + 16);
+        }
         m_fields.push_back(field);
     }
     addOkCancel([this] {

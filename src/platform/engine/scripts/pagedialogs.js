@@ -57,40 +57,57 @@ function ztFirstFamily(list) {
 // The text of the body as the user reads it, for finding: runs of white space as one
 // blank, and a line break wherever text leaves one block for another or meets a
 // picture or a line break; so a word split by bold matches, two paragraphs do not.
-// at[i] is the text node and offset of the character i stands for.
+// Each text node is a segment: where its characters start in the text, and the
+// offset in the node of each character kept.
 const ztSkippedInFind = new Set(['script', 'style', 'noscript', 'template', 'textarea', 'select',
                                  'object', 'iframe']);
 
+const ztFoldedSpace = /[\t\n\r\f\u00a0]| {2}/;
+
+function ztLowerCase(data) {
+    const lower = data.toLowerCase();
+    if (lower.length === data.length)
+        return lower;
+    return Array.from(data, c => c.toLowerCase().length === 1 ? c.toLowerCase() : c).join('');
+}
+
+// Leaves the walker on the last node inside its current node, so that the next
+// step goes past that node's content.
+function ztPastContent(walker) {
+    while (walker.lastChild())
+        continue;
+}
+
 function ztPageText(matchCase) {
-    const blocks = new Map();
+    // The inline elements go by name: asking the engine for every element's style
+    // costs seconds on a large page.
     const blockOf = element => {
-        let block = blocks.get(element);
-        if (block === undefined) {
-            const display = getComputedStyle(element).display;
-            block = element === document.body || !display.startsWith('inline')
-                ? element : blockOf(element.parentElement);
-            blocks.set(element, block);
-        }
-        return block;
+        while (element !== document.body && ztInlineElements.has(element.localName))
+            element = element.parentElement;
+        return element;
     };
-    const chars = [];
-    const at = [];
+    const pieces = [];
+    const segments = [];
+    const segmentOf = new Map();
+    let length = 0;
+    let last = '\n';
     let lastBlock = null;
     const breakLine = () => {
-        if (chars.length && chars[chars.length - 1] !== '\n') {
-            chars.push('\n');
-            at.push(null);
+        if (last !== '\n') {
+            pieces.push('\n');
+            ++length;
+            last = '\n';
         }
     };
-    const walker = document.createTreeWalker(document.body,
-                                             NodeFilter.SHOW_ELEMENT | NodeFilter.SHOW_TEXT, {
-        acceptNode: node => node.nodeType === Node.ELEMENT_NODE &&
-            ztSkippedInFind.has(node.localName) ? NodeFilter.FILTER_REJECT
-                                                : NodeFilter.FILTER_ACCEPT,
-    });
+    // No filter on the walker: a call into a filter for every node costs seconds on
+    // a large page.
+    const walker =
+        document.createTreeWalker(document.body, NodeFilter.SHOW_ELEMENT | NodeFilter.SHOW_TEXT);
     for (let node = walker.nextNode(); node; node = walker.nextNode()) {
         if (node.nodeType === Node.ELEMENT_NODE) {
-            if (ztVoidElements.has(node.localName))
+            if (ztSkippedInFind.has(node.localName))
+                ztPastContent(walker);
+            else if (ztVoidElements.has(node.localName))
                 breakLine();
             continue;
         }
@@ -98,45 +115,77 @@ function ztPageText(matchCase) {
         if (block !== lastBlock)
             breakLine();
         lastBlock = block;
-        const data = node.data;
-        for (let i = 0; i < data.length; ++i) {
-            let c = data[i];
-            if (/[ \t\n\r\f\u00a0]/.test(c)) {
-                const last = chars[chars.length - 1];
-                if (last === ' ' || last === '\n' || last === undefined)
-                    continue;
-                c = ' ';
-            } else if (!matchCase) {
-                const lower = c.toLowerCase();
-                c = lower.length === 1 ? lower : c;
+        const data = matchCase ? node.data : ztLowerCase(node.data);
+        // Most text has no white space to fold: it is kept as it stands.
+        let offsets = null;
+        let kept = data;
+        if (ztFoldedSpace.test(data) || (data[0] === ' ' && (last === ' ' || last === '\n'))) {
+            offsets = [];
+            kept = '';
+            for (let i = 0; i < data.length; ++i) {
+                const code = data.charCodeAt(i);
+                if (code === 32 || code === 9 || code === 10 || code === 13 || code === 12 ||
+                    code === 160) {
+                    if (last === ' ' || last === '\n')
+                        continue;
+                    last = ' ';
+                } else {
+                    last = data[i];
+                }
+                kept += last;
+                offsets.push(i);
             }
-            chars.push(c);
-            at.push([node, i]);
+        } else if (data) {
+            last = data[data.length - 1];
         }
+        segmentOf.set(node, segments.length);
+        segments.push({node, start: length, offsets});
+        pieces.push(kept);
+        length += kept.length;
     }
-    return {text: chars.join(''), at};
+    return {text: pieces.join(''), segments, segmentOf};
+}
+
+// The text node and offset of character at of the page text.
+function ztPointOf(page, at) {
+    let low = 0;
+    let high = page.segments.length - 1;
+    while (low < high) {
+        const middle = (low + high + 1) >> 1;
+        if (page.segments[middle].start <= at)
+            low = middle;
+        else
+            high = middle - 1;
+    }
+    const segment = page.segments[low];
+    const index = at - segment.start;
+    return [segment.node, segment.offsets ? segment.offsets[index] : index];
 }
 
 // How many characters of the page text lie before a point of the page.
 function ztCharsBefore(page, container, offset) {
+    const own = page.segmentOf.get(container);
+    if (own !== undefined) {
+        const segment = page.segments[own];
+        return segment.start + (segment.offsets ? segment.offsets.filter(at => at < offset).length
+                                                : Math.min(offset, segment.node.length));
+    }
+    // Otherwise the point lies between nodes: count the text nodes before it.
     const point = document.createRange();
     point.setStart(container, offset);
     let low = 0;
-    let high = page.at.length;
+    let high = page.segments.length;
     while (low < high) {
         const middle = (low + high) >> 1;
-        let probe = middle;
-        while (probe < high && !page.at[probe])
-            ++probe;
-        if (probe === high) {
+        if (point.comparePoint(page.segments[middle].node, 0) < 0)
+            low = middle + 1;
+        else
             high = middle;
-        } else if (point.comparePoint(page.at[probe][0], page.at[probe][1]) < 0) {
-            low = probe + 1;
-        } else {
-            high = middle;
-        }
     }
-    return low;
+    if (!low)
+        return 0;
+    const before = page.segments[low - 1];
+    return before.start + (before.offsets ? before.offsets : before.node.data).length;
 }
 
 function ztIsWordChar(c) {
@@ -228,8 +277,7 @@ Object.assign(ztCommands, {
             return {ok: false};
         let needle = args.text.replace(/[ \t\n\r\f\u00a0]+/g, ' ');
         if (!args.matchCase)
-            needle = Array.from(needle, c => c.toLowerCase().length === 1 ? c.toLowerCase() : c)
-                         .join('');
+            needle = ztLowerCase(needle);
         if (!needle)
             return {ok: true, found: false};
         const page = ztPageText(args.matchCase);
@@ -254,8 +302,8 @@ Object.assign(ztCommands, {
             found = matches.find(at => at >= after);
             found = found === undefined ? matches[0] : found;
         }
-        const first = page.at[found];
-        const last = page.at[found + needle.length - 1];
+        const first = ztPointOf(page, found);
+        const last = ztPointOf(page, found + needle.length - 1);
         const match = document.createRange();
         match.setStart(first[0], first[1]);
         match.setEnd(last[0], last[1] + 1);
