@@ -54,16 +54,13 @@ function ztFirstFamily(list) {
     return first.replace(/^(["'])(.*)\1$/, '$2');
 }
 
-// The text of the body as the user reads it, for finding: runs of white space as one
-// blank, and a line break wherever text leaves one block for another or meets a
-// picture or a line break; so a word split by bold matches, two paragraphs do not.
-// Each text node is a segment: where its characters start in the text, and the
-// offset in the node of each character kept.
+// What finding passes over: text the user does not read as the page's.
 const ztSkippedInFind = new Set(['script', 'style', 'noscript', 'template', 'textarea', 'select',
                                  'object', 'iframe']);
 
 const ztFoldedSpace = /[\t\n\r\f\u00a0]| {2}/;
 
+// Lower case that keeps every character in its place, so that offsets still hold.
 function ztLowerCase(data) {
     const lower = data.toLowerCase();
     if (lower.length === data.length)
@@ -78,6 +75,11 @@ function ztPastContent(walker) {
         continue;
 }
 
+// The text of the body as the user reads it, for finding: runs of white space as one
+// blank, and a line break wherever text leaves one block for another or meets a
+// picture or a line break; so a word split by bold matches, two paragraphs do not.
+// Each text node is a segment: where its characters start in the text, and the
+// offset in the node of each character kept.
 function ztPageText(matchCase) {
     // The inline elements go by name: asking the engine for every element's style
     // costs seconds on a large page.
@@ -116,7 +118,8 @@ function ztPageText(matchCase) {
             breakLine();
         lastBlock = block;
         const data = matchCase ? node.data : ztLowerCase(node.data);
-        // Most text has no white space to fold: it is kept as it stands.
+        // Most text has no white space to fold: it is kept as it stands, and its
+        // segment has no offsets.
         let offsets = null;
         let kept = data;
         if (ztFoldedSpace.test(data) || (data[0] === ' ' && (last === ' ' || last === '\n'))) {
