@@ -23,8 +23,8 @@ const QString& library() {
     static const QString text = [] {
         QString all;
         for (const char* name :
-             {"serialize.js", "editing.js", "history.js", "formatting.js", "positioning.js",
-              "dragging.js", "details.js", "surface.js", "load.js"})
+             {"serialize.js", "editing.js", "history.js", "formatting.js", "pagedialogs.js",
+              "positioning.js", "dragging.js", "details.js", "surface.js", "load.js"})
             all += resource(QString::fromLatin1(name)) + u'\n';
         return all;
     }();

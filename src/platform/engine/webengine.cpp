@@ -2,6 +2,10 @@
 
 #include "documentserver.h"
 #include "enginescripts.h"
+#include "finddialog.h"
+#include "fontdialog.h"
+#include "imagedialog.h"
+#include "linkdialog.h"
 #include "pageprofile.h"
 #include "pagetext.h"
 #include "pendinganswer.h"
@@ -188,6 +192,12 @@ void WebPageEngine::execCommand(DhtmlCommand id) {
         edit(QStringLiteral("paste"), {{"html", html}});
         return;
     }
+    case DECMD_FONT:
+    case DECMD_IMAGE:
+    case DECMD_HYPERLINK:
+    case DECMD_FINDTEXT:
+        runDialog(id);
+        return;
     default:
         break;
     }
@@ -197,6 +207,23 @@ void WebPageEngine::execCommand(DhtmlCommand id) {
     if (command->edits)
         requireEditable();
     edit(QLatin1String(command->name));
+}
+
+// The editing control's own dialogs, modal over the view, working on the page's
+// selection.
+void WebPageEngine::runDialog(DhtmlCommand id) {
+    requireEditable();
+    const PageCall page = [this](const QString& command, const QJsonObject& args) {
+        return edit(command, args);
+    };
+    if (id == DECMD_FONT)
+        runFontDialog(m_view, page);
+    else if (id == DECMD_IMAGE)
+        runImageDialog(m_view, m_folder, page);
+    else if (id == DECMD_HYPERLINK)
+        runLinkDialog(m_view, page);
+    else
+        runFindDialog(m_view, page);
 }
 
 void WebPageEngine::loadDocument(const QString& path) {

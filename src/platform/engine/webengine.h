@@ -91,6 +91,7 @@ private:
     QString serialize(bool withMarker, std::chrono::milliseconds deadline);
     void copyToClipboard(const QVariantMap& answer);
     void showContextMenu(const QPoint& at);
+    void runDialog(DhtmlCommand id);
     void requireEditable() const;
     void tellSurface();
     bool showsOwnPage() const;
