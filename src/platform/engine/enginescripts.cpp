@@ -23,7 +23,7 @@ const QString& library() {
     static const QString text = [] {
         QString all;
         for (const char* name :
-             {"serialize.js", "editing.js", "history.js", "formatting.js", "load.js"})
+             {"serialize.js", "editing.js", "history.js", "formatting.js", "tables.js", "load.js"})
             all += resource(QString::fromLatin1(name)) + u'\n';
         return all;
     }();

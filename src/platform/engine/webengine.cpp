@@ -70,6 +70,14 @@ const ScriptCommand* scriptCommand(DhtmlCommand id) {
         {DECMD_JUSTIFYLEFT, "justifyLeft"},
         {DECMD_JUSTIFYCENTER, "justifyCenter"},
         {DECMD_JUSTIFYRIGHT, "justifyRight"},
+        {DECMD_INSERTROW, "insertRow"},
+        {DECMD_INSERTCOL, "insertColumn"},
+        {DECMD_INSERTCELL, "insertCell"},
+        {DECMD_DELETEROWS, "deleteRows"},
+        {DECMD_DELETECOLS, "deleteColumns"},
+        {DECMD_DELETECELLS, "deleteCells"},
+        {DECMD_MERGECELLS, "mergeCells"},
+        {DECMD_SPLITCELL, "splitCell"},
     };
     for (const ScriptCommand& command : commands) {
         if (command.id == id)
