@@ -156,6 +156,9 @@ public:
     void btnImage_Click();
     void btnFont_Click();
 
+    // Runs one command of the page, passing over one that does not apply.
+    void execOnPage(DhtmlCommand id);
+
     void titleupdate();
 
     struct Ui {

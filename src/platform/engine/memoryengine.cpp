@@ -108,38 +108,84 @@ void MemoryEngine::setDocumentHTML(const QString& html) {
     m_text = html;
     m_selectionStart = 0;
     m_selectionLength = 0;
+    m_hasSelection = false;
+    m_undo.clear();
+    m_redo.clear();
 }
 
 void MemoryEngine::execCommand(DhtmlCommand id) {
     switch (id) {
     case DECMD_SELECTALL:
         setSelection(0, int(bodyContent().size()));
-        return;
+        break;
     case DECMD_COPY:
         copySelection();
-        return;
+        break;
     case DECMD_CUT:
-        requireEditable();
-        if (m_selectionLength == 0)
-            throw RuntimeFailure::invalidProcedureCall();
-        copySelection();
-        replaceSelection(QString());
-        return;
     case DECMD_DELETE:
         requireEditable();
         if (m_selectionLength == 0)
             throw RuntimeFailure::invalidProcedureCall();
+        if (id == DECMD_CUT)
+            copySelection();
+        remember();
         replaceSelection(QString());
-        return;
+        break;
     case DECMD_PASTE: {
         requireEditable();
         const QString html = pagetext::htmlToPaste(m_clipboard);
+        remember();
         replaceSelection(html);
-        return;
+        break;
     }
+    case DECMD_UNDO:
+        requireEditable();
+        replay(m_undo, m_redo);
+        break;
+    case DECMD_REDO:
+        requireEditable();
+        replay(m_redo, m_undo);
+        break;
     default:
-        throw RuntimeFailure::invalidProcedureCall();
+        requireEditable();
+        runFormatting(id);
+        break;
     }
+    m_executed.append(id);
+}
+
+void MemoryEngine::runFormatting(DhtmlCommand id) {
+    static const QList<DhtmlCommand> tableCommands{
+        DECMD_INSERTROW,  DECMD_INSERTCOL,   DECMD_INSERTCELL, DECMD_DELETEROWS,
+        DECMD_DELETECOLS, DECMD_DELETECELLS, DECMD_MERGECELLS, DECMD_SPLITCELL};
+    static const QList<DhtmlCommand> zOrderCommands{DECMD_BRING_TO_FRONT,   DECMD_BRING_FORWARD,
+                                                    DECMD_BRING_ABOVE_TEXT, DECMD_SEND_TO_BACK,
+                                                    DECMD_SEND_BACKWARD,    DECMD_SEND_BELOW_TEXT};
+    static const QList<DhtmlCommand> otherCommands{
+        DECMD_FONT,         DECMD_IMAGE,     DECMD_HYPERLINK,   DECMD_FINDTEXT,
+        DECMD_INDENT,       DECMD_OUTDENT,   DECMD_JUSTIFYLEFT, DECMD_JUSTIFYCENTER,
+        DECMD_JUSTIFYRIGHT, DECMD_ORDERLIST, DECMD_UNORDERLIST, DECMD_REMOVEFORMAT,
+        DECMD_UNLINK};
+    const QString wrap = id == DECMD_BOLD        ? QStringLiteral("b")
+                         : id == DECMD_ITALIC    ? QStringLiteral("i")
+                         : id == DECMD_UNDERLINE ? QStringLiteral("u")
+                                                 : QString();
+    if (wrap.isEmpty() && !tableCommands.contains(id) && !zOrderCommands.contains(id) &&
+        !otherCommands.contains(id))
+        throw RuntimeFailure::invalidProcedureCall();
+    requireSelection();
+    if (tableCommands.contains(id) &&
+        !insideOf(QStringLiteral("<t[dh](?=[\\s>])"), QStringLiteral("</t[dh]>")))
+        throw RuntimeFailure::invalidProcedureCall();
+    if (zOrderCommands.contains(id) &&
+        !insideOf(QStringLiteral("<div[^>]*position\\s*:[^>]*>"), QStringLiteral("</div>")))
+        throw RuntimeFailure::invalidProcedureCall();
+    if (wrap.isEmpty())
+        return;
+    remember();
+    const int start = m_selectionStart;
+    replaceSelection(QStringLiteral("<%1>%2</%1>").arg(wrap, selectedHtml()));
+    setSelection(start, m_selectionStart - start);
 }
 
 void MemoryEngine::loadDocument(const QString& path) {
@@ -167,6 +213,7 @@ void MemoryEngine::setSelection(int start, int length) {
     const int size = int(bodyContent().size());
     m_selectionStart = std::clamp(start, 0, size);
     m_selectionLength = std::clamp(length, 0, size - m_selectionStart);
+    m_hasSelection = true;
 }
 
 bool MemoryEngine::selectText(const QString& text) {
@@ -183,6 +230,7 @@ QString MemoryEngine::bodyContent() const {
 }
 
 void MemoryEngine::typeKey(QChar key) {
+    remember();
     replaceSelection(pagetext::htmlOfPlainText(QString(key)));
     if (onKeyPress)
         Guard::run([&] { onKeyPress(key); });
@@ -225,6 +273,32 @@ void MemoryEngine::replaceSelection(const QString& html) {
     m_text.replace(body.start + m_selectionStart, m_selectionLength, html);
     m_selectionStart += int(html.size());
     m_selectionLength = 0;
+}
+
+void MemoryEngine::requireSelection() const {
+    if (!m_hasSelection)
+        throw RuntimeFailure::invalidProcedureCall();
+}
+
+bool MemoryEngine::insideOf(const QString& startPattern, const QString& endTag) const {
+    const QString before = bodyContent().left(m_selectionStart);
+    const QRegularExpression start(startPattern, QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpression end(endTag, QRegularExpression::CaseInsensitiveOption);
+    return before.count(start) > before.count(end);
+}
+
+// The page as it was before a change, for Undo; a change ends what Redo had.
+void MemoryEngine::remember() {
+    m_undo.append(m_text);
+    m_redo.clear();
+}
+
+void MemoryEngine::replay(QList<QString>& from, QList<QString>& to) {
+    if (from.isEmpty())
+        throw RuntimeFailure::invalidProcedureCall();
+    to.append(m_text);
+    m_text = from.takeLast();
+    setSelection(0, 0);
 }
 
 void MemoryEngine::requireEditable() const {

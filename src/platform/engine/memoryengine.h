@@ -2,6 +2,8 @@
 
 #include "pageengine.h"
 
+#include <QList>
+
 namespace zt {
 
 class Clipboard;
@@ -18,9 +20,14 @@ class Clipboard;
 // select-all selects the content, copy puts the selected text on the clipboard as
 // HTML and, stripped of tags, as plain text, cut copies and removes, paste puts the
 // clipboard's HTML (or its text, escaped) in place of the selection, delete removes.
-// A command that does not apply (an empty selection for copy, cut or delete,
-// nothing to paste, editing in browse mode, an id this engine has no action for)
-// throws 5, Invalid procedure call, as the real engine does.
+// Bold, italic and underline wrap the selection in <b>, <i> or <u>; the other
+// formatting commands, the dialogs and the table and z-order commands change
+// nothing here and are only noted in executed(). Every change can be undone and
+// redone. A command that does not apply (no selection after a page is set, an
+// empty selection for cut or delete, nothing to paste, editing in browse mode, a
+// table command outside <td>, a z-order command outside a <div> with a position,
+// nothing to undo or redo, an id this engine has no action for) throws 5, Invalid
+// procedure call, as the real engine does.
 class MemoryEngine : public PageEngine {
 public:
     explicit MemoryEngine(Clipboard& clipboard);
@@ -64,6 +71,8 @@ public:
     // The last URL given to loadURL, and how often the engine got the focus.
     QString loadedURL() const { return m_url; }
     int focusCount() const { return m_focusCount; }
+    // The commands that applied, in order.
+    const QList<DhtmlCommand>& executed() const { return m_executed; }
 
 private:
     struct Span {
@@ -75,11 +84,22 @@ private:
     void copySelection();
     void replaceSelection(const QString& html);
     void requireEditable() const;
+    void requireSelection() const;
+    // Whether the element the selection starts in is open around it: the text
+    // before the selection has more of its start tags than end tags.
+    bool insideOf(const QString& startPattern, const QString& endTag) const;
+    void runFormatting(DhtmlCommand id);
+    void remember();
+    void replay(QList<QString>& from, QList<QString>& to);
 
     Clipboard& m_clipboard;
     QString m_text;
     int m_selectionStart = 0;
     int m_selectionLength = 0;
+    bool m_hasSelection = false;
+    QList<QString> m_undo;
+    QList<QString> m_redo;
+    QList<DhtmlCommand> m_executed;
     QString m_url;
     bool m_browseMode = false;
     bool m_showDetails = false;

@@ -16,6 +16,7 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QTimer>
 #include <QWebEngineLoadingInfo>
 #include <QWebEngineNavigationRequest>
@@ -133,6 +134,9 @@ WebPageEngine::WebPageEngine(Clipboard& clipboard, QWidget* parent)
                     return;
                 request.reject();
             });
+    m_view->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_view, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& at) { showContextMenu(at); });
     watchInput();
     // The control comes up holding an empty page that can be typed into, as the
     // in-memory engine does; without it the view would show a page that is neither
@@ -471,6 +475,30 @@ void WebPageEngine::copyToClipboard(const QVariantMap& answer) {
         return;
     m_clipboard.setHtml(pagetext::withCrLf(answer.value(QStringLiteral("html")).toString()),
                         pagetext::withCrLf(answer.value(QStringLiteral("text")).toString()));
+}
+
+// The editing surface's own menu: the browser's would undo by a history of its own
+// and copy around the program's clipboard.
+void WebPageEngine::showContextMenu(const QPoint& at) {
+    static const std::pair<const char*, DhtmlCommand> entries[] = {
+        {"Undo", DECMD_UNDO},     {"Redo", DECMD_REDO},  {nullptr, DECMD_UNDO},
+        {"Cut", DECMD_CUT},       {"Copy", DECMD_COPY},  {"Paste", DECMD_PASTE},
+        {"Delete", DECMD_DELETE}, {nullptr, DECMD_UNDO}, {"Select All", DECMD_SELECTALL},
+    };
+    QMenu menu(m_view);
+    for (const auto& [text, id] : entries) {
+        if (!text) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction* action = menu.addAction(QString::fromLatin1(text));
+        action->setEnabled(!m_browseMode || id == DECMD_COPY || id == DECMD_SELECTALL);
+        connect(action, &QAction::triggered, this, [this, id = id] {
+            // A command that does not apply does nothing, as from the program's menus.
+            Guard::run([&] { orEndSilently([&] { execCommand(id); }); });
+        });
+    }
+    menu.exec(m_view->mapToGlobal(at));
 }
 
 void WebPageEngine::requireEditable() const {

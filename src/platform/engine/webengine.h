@@ -90,6 +90,7 @@ private:
     bool loadShell();
     QString serialize(bool withMarker, std::chrono::milliseconds deadline);
     void copyToClipboard(const QVariantMap& answer);
+    void showContextMenu(const QPoint& at);
     void requireEditable() const;
     bool showsOwnPage() const;
     void scheduleDisplayChanged();

@@ -10,22 +10,36 @@ function ztNative(name, value) {
     return {ok: document.execCommand(name, false, value)};
 }
 
-for (const name of ['bold', 'italic', 'underline', 'removeFormat', 'insertOrderedList',
-                    'insertUnorderedList', 'indent', 'outdent', 'justifyLeft', 'justifyCenter',
-                    'justifyRight'])
+for (const name of ['bold', 'italic', 'underline', 'removeFormat', 'indent', 'outdent',
+                    'justifyLeft', 'justifyCenter', 'justifyRight'])
     ztCommands[name] = () => ztNative(name);
 
-// The link around a caret goes as a whole; a selection loses the links it touches.
-// Where there is no link, there is nothing to remove.
+// The browser makes a list inside the paragraph it came from, which no parser
+// would keep: the page would grow an empty paragraph on its next trip through the
+// source view. The list takes the paragraph's place instead.
+function ztList(name) {
+    const answer = ztNative(name);
+    for (const list of Array.from(document.body.querySelectorAll('p > ol, p > ul'))) {
+        const paragraph = list.parentNode;
+        paragraph.parentNode.insertBefore(list, paragraph);
+        if (!paragraph.firstChild)
+            paragraph.remove();
+    }
+    return answer;
+}
+ztCommands.insertOrderedList = () => ztList('insertOrderedList');
+ztCommands.insertUnorderedList = () => ztList('insertUnorderedList');
+
+// The link around a caret or a selection goes as a whole; a selection across links
+// loses the parts of them it touches. Where there is no link, there is nothing to
+// remove.
 ztCommands.unlink = () => {
     const range = ztSelectionRange();
     if (!range)
         return {ok: false};
     const start = range.startContainer;
     const holder = (start.nodeType === Node.ELEMENT_NODE ? start : start.parentNode).closest('a[href]');
-    if (range.collapsed) {
-        if (!holder)
-            return {ok: false};
+    if (holder && holder.contains(range.endContainer)) {
         const whole = document.createRange();
         whole.selectNodeContents(holder);
         ztSelect(whole);

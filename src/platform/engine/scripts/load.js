@@ -17,6 +17,7 @@ function ztDoctypeText(doctype) {
 // args: none; for a page that came by navigation.
 function ztTrimBodyEndOfPage() {
     ztTrimBodyEnd();
+    ztHistoryReset();
     return {ok: true};
 }
 
@@ -49,12 +50,14 @@ function ztLoadPage(args) {
     // No selection is the caret at the start of the page. Placing a real one would
     // lay the page out inside this call, seconds for a large page.
     window.getSelection().removeAllRanges();
+    ztHistoryReset();
     return {loaded: true};
 }
 
 // Design mode for a page that came by navigation.
 function ztSetEditable(args) {
     document.designMode = args.editable ? 'on' : 'off';
+    ztHistory();
     return {ok: true};
 }
 
