@@ -112,6 +112,13 @@ TEST(TableCommands, ChangeTheTableAtTheSelectionThroughItsGrid) {
                    TR("<td>&nbsp;</td><td>&nbsp;</td><td>c</td>"))},
         {square, "a", nullptr, DECMD_SPLITCELL, nullptr},
     };
+    // The caret stays in a cell, or in the page where the table went.
+    const QString caretInACell = QStringLiteral(R"((() => {
+        const node = getSelection().anchorNode;
+        const at = node && (node.nodeType === Node.ELEMENT_NODE ? node : node.parentNode);
+        return !!at && document.body.contains(at) &&
+            (!document.querySelector('table') || !!at.closest('td, th'));
+    })())");
     WebPageEngine& engine = EngineKit::web();
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.body) + " at " + c.from + ", " + std::to_string(c.command));
@@ -120,6 +127,12 @@ TEST(TableCommands, ChangeTheTableAtTheSelectionThroughItsGrid) {
         const std::string before = body(engine);
         EXPECT_EQ(failureOf([&] { engine.execCommand(c.command); }), c.want ? 0 : 5);
         EXPECT_EQ(body(engine), c.want ? c.want : before);
+        EXPECT_TRUE(evaluate(engine, caretInACell).toBool());
+        // Undo takes the whole change back, a table that went included.
+        if (c.want) {
+            engine.execCommand(DECMD_UNDO);
+            EXPECT_EQ(body(engine), before);
+        }
     }
 }
 

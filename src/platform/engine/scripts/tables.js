@@ -293,8 +293,11 @@ Object.assign(ztCommands, {
             if (at.rows * at.cols < 2)
                 return false;
             const cell = found.cell;
-            ztSetSpan(cell, 'rowSpan', 1);
-            ztSetSpan(cell, 'colSpan', 1);
+            // The later attribute first: Undo puts them back in the reverse order.
+            for (const name of cell.getAttributeNames().reverse()) {
+                if (name === 'rowspan' || name === 'colspan')
+                    cell.removeAttribute(name);
+            }
             for (let r = at.row; r < at.row + at.rows; ++r) {
                 const row = grid.rows[r];
                 const before = r === at.row ? cell.nextSibling : ztCellAfter(grid, row, at.col);
