@@ -113,7 +113,7 @@ function ztTableSpot(table) {
 
 // Takes out the given rows of the grid. A cell that spans into a surviving row
 // loses only the rows that go; one whose first row goes moves down into the next
-// row that stays. A section left without rows goes, and so does the table.
+// row that stays. Without rows the table goes.
 function ztDeleteRows(grid, gone) {
     if (gone.size >= grid.rows.length) {
         grid.table.remove();
@@ -121,9 +121,7 @@ function ztDeleteRows(grid, gone) {
     }
     const moving = [...grid.places].sort((a, b) => a[1].col - b[1].col);
     for (const [cell, place] of moving) {
-        let lost = 0;
-        for (let r = place.row; r < place.row + place.rows; ++r)
-            lost += gone.has(r) ? 1 : 0;
+        const lost = ztCountIn(gone, place.row, place.rows);
         if (lost === 0 || lost === place.rows)
             continue;
         ztSetSpan(cell, 'rowSpan', place.rows - lost);
@@ -134,12 +132,24 @@ function ztDeleteRows(grid, gone) {
             grid.rows[stay].insertBefore(cell, ztCellAfter(grid, grid.rows[stay], place.col));
         }
     }
-    for (const r of gone) {
-        const section = grid.rows[r].parentNode;
-        grid.rows[r].remove();
-        if (section !== grid.table && !section.querySelector('tr'))
-            section.remove();
-    }
+    for (const r of gone)
+        ztRemoveRow(grid, grid.rows[r]);
+}
+
+// A section (thead, tbody, tfoot) left without rows goes with its last row.
+function ztRemoveRow(grid, row) {
+    const section = row.parentNode;
+    row.remove();
+    if (section !== grid.table && !section.rows.length)
+        section.remove();
+}
+
+// How many of the count numbers from first are in the set.
+function ztCountIn(set, first, count) {
+    let inside = 0;
+    for (let i = first; i < first + count; ++i)
+        inside += set.has(i) ? 1 : 0;
+    return inside;
 }
 
 // The rows or columns that the selected cells cover.
@@ -172,7 +182,8 @@ Object.assign(ztCommands, {
                     ztSetSpan(cell, 'rowSpan', place.rows + 1);
                 else
                     added.appendChild(ztNewCell(cell || found.cell, 1, place && place.cols));
-                c += place ? place.cols : 1;
+                // Past the cell, also where a malformed table lets spans overlap.
+                c = place ? Math.max(c + 1, place.col + place.cols) : c + 1;
             }
             grid.rows[at.row].before(added);
         });
@@ -214,9 +225,7 @@ Object.assign(ztCommands, {
                 grid.table.remove();
             } else {
                 for (const [cell, place] of grid.places) {
-                    let lost = 0;
-                    for (let c = place.col; c < place.col + place.cols; ++c)
-                        lost += gone.has(c) ? 1 : 0;
+                    const lost = ztCountIn(gone, place.col, place.cols);
                     if (lost === place.cols)
                         cell.remove();
                     else if (lost)
@@ -226,7 +235,7 @@ Object.assign(ztCommands, {
                 grid.rows.forEach((row, r) => {
                     const slots = grid.slots[r];
                     if (slots.length && slots.every((cell, c) => gone.has(c)))
-                        row.remove();
+                        ztRemoveRow(grid, row);
                 });
             }
             ztCaretNear(grid, at.row, at.col, spot);
