@@ -24,7 +24,7 @@ const QString& library() {
         QString all;
         for (const char* name :
              {"serialize.js", "editing.js", "history.js", "formatting.js", "pagedialogs.js",
-              "positioning.js", "dragging.js", "details.js", "surface.js", "load.js"})
+              "tables.js", "positioning.js", "dragging.js", "details.js", "surface.js", "load.js"})
             all += resource(QString::fromLatin1(name)) + u'\n';
         return all;
     }();

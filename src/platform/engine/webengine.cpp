@@ -81,6 +81,14 @@ const ScriptCommand* scriptCommand(DhtmlCommand id) {
         {DECMD_SEND_TO_BACK, "sendToBack"},
         {DECMD_SEND_BACKWARD, "sendBackward"},
         {DECMD_SEND_BELOW_TEXT, "sendBelowText"},
+        {DECMD_INSERTROW, "insertRow"},
+        {DECMD_INSERTCOL, "insertColumn"},
+        {DECMD_INSERTCELL, "insertCell"},
+        {DECMD_DELETEROWS, "deleteRows"},
+        {DECMD_DELETECOLS, "deleteColumns"},
+        {DECMD_DELETECELLS, "deleteCells"},
+        {DECMD_MERGECELLS, "mergeCells"},
+        {DECMD_SPLITCELL, "splitCell"},
     };
     for (const ScriptCommand& command : commands) {
         if (command.id == id)
