@@ -61,11 +61,14 @@ std::function<void(TextControl&)> ElementDialog::numeric() {
 void ElementDialog::accept() {
     if (warnedOfMissing())
         return;
-    const QString text = fragment();
-    const QString callerMode = m_caller ? m_caller->text() : QString();
-    deliverTo(forms(), targetOf(m_setup.shape, callerMode), text, m_setup.console);
+    deliver(fragment());
     keepSettings();
     unload();
+}
+
+void ElementDialog::deliver(const QString& fragment) {
+    const QString callerMode = m_caller ? m_caller->text() : QString();
+    deliverTo(forms(), targetOf(m_setup.shape, callerMode), fragment, m_setup.console);
 }
 
 void ElementDialog::cancel() {

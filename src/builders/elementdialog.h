@@ -48,7 +48,7 @@ public:
     // The accept button: a required field left empty is warned of and keeps the
     // dialog open; otherwise the fragment goes where the caller says, the settings
     // are kept and the dialog unloads.
-    void accept();
+    virtual void accept();
     // The cancel button, Esc, and the frame's close: the dialog unloads.
     void cancel();
     // The help button: the dialog's page in the help window.
@@ -76,6 +76,11 @@ protected:
     // The numeric check of a number field, as a limit of the table.
     std::function<void(TextControl&)> numeric();
 
+    // Warns of the first required field left empty and moves the focus to it.
+    bool warnedOfMissing();
+    // Hands the fragment to the caller the dialog's shape picks.
+    void deliver(const QString& fragment);
+
 private:
     struct Required {
         TextControl* field;
@@ -83,7 +88,6 @@ private:
         QString warning;
     };
 
-    bool warnedOfMissing();
     void keepSettings();
 
     Setup m_setup;

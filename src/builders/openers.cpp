@@ -1,11 +1,13 @@
 // The menu items of the two views that open the element dialogs, and the visual
 // view's own Highlight.
 #include "colours.h"
+#include "frmimage.h"
 #include "frmrow.h"
 #include "heading.h"
 #include "highlight.h"
 #include "highlightgen.h"
 #include "protocol.h"
+#include "rollover.h"
 #include "rule.h"
 #include "table.h"
 #include "vistbl.h"
@@ -45,6 +47,15 @@ void Zelvo::mnuinsrowcol() {
 
 void Zelvo::mnuVisTbl() {
     dialogFor<visTbl>(forms(), caller::kEdit).show();
+}
+
+void Zelvo::mnuImage() {
+    dialogFor<frmImage>(forms(), caller::kEdit).show();
+}
+
+// The rollover dialog has no caller: it always rewrites the source text.
+void Zelvo::mnuRollImage() {
+    forms().get<rollover>().show();
 }
 
 void Tessara::mnuInsTable() {

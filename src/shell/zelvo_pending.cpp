@@ -13,8 +13,6 @@ void Zelvo::mnuColourPicker() {}
 void Zelvo::mnuMetaGen() {}
 void Zelvo::mnuEditProperties() {}
 void Zelvo::mnuFont() {}
-void Zelvo::mnuImage() {}
-void Zelvo::mnuRollImage() {}
 void Zelvo::mnuPageTitle() {}
 void Zelvo::mnuBullets() {}
 void Zelvo::mnuNumbering() {}
