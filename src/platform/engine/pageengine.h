@@ -91,6 +91,18 @@ public:
     virtual bool snapToGrid() const = 0;
     virtual void setSnapToGrid(bool on) = 0;
 
+    // A design surface, as the form designer and the Layout Manager use: a click
+    // selects an element with a frame and eight handles; it moves by dragging,
+    // resizes by its handles and nudges with the cursor keys (by the grid step with
+    // snapToGrid on); a second click edits its text in place. The outcome is the
+    // element's inline style, seen only through documentHTML. Browse mode turns it
+    // all off; the frame and handles never reach the document.
+    virtual void setDesignSurface(bool on) { (void)on; }
+    virtual bool designSurface() const { return false; }
+    // An element the user picks up in strip and drops on this page goes in where it
+    // was dropped; the strip keeps its copy, so it can be dropped again.
+    virtual void acceptDropsFrom(PageEngine& strip) { (void)strip; }
+
     virtual void setFocus() = 0;
     virtual bool isVisible() const = 0;
     virtual void setVisible(bool visible) = 0;
