@@ -14,7 +14,6 @@ void Tessara::mnuColourPicker() {}
 void Tessara::mnuMetaGen() {}
 void Tessara::mnuInsRectBox() {}
 void Tessara::mnuPageTitle() {}
-void Tessara::mnuMorvane() {}
 void Tessara::mnuInsForm() {}
 void Tessara::mnuTextBox() {}
 void Tessara::mnuPassword() {}

@@ -16,7 +16,6 @@ void Zelvo::mnuFont() {}
 void Zelvo::mnuPageTitle() {}
 void Zelvo::mnuBullets() {}
 void Zelvo::mnuNumbering() {}
-void Zelvo::mnuMorvane() {}
 void Zelvo::mnuiForm() {}
 void Zelvo::mnuTextBox() {}
 void Zelvo::mnuPassword() {}
