@@ -26,15 +26,18 @@ const QString kDefaultFormBox = QStringLiteral(
     R"(<div id="MorvaneForm" style="position:relative;left:0px;top:0px;width:400px;)"
     R"(height:300px;background-color:#FFFFFF;color:#000000;border-width:1;border-style:solid;">)");
 
-// A column of the buttons of rows, each as wide as the column.
+// A column of the buttons of rows, framed and each as wide as the column.
 QWidget* buttonColumn(morvane& form, const std::vector<FormatButton<morvane>>& rows) {
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(2, 2, 2, 2);
     layout->setSpacing(2);
     buildFormatBar(form, *column, rows, {});
-    for (const FormatButton<morvane>& row : rows)
-        (form.ui.*row.button)->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    for (const FormatButton<morvane>& row : rows) {
+        QToolButton* button = form.ui.*row.button;
+        button->setAutoRaise(false);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
     return column;
 }
 
