@@ -63,97 +63,55 @@ protected:
 };
 
 TEST_F(DesignSurface, DragsHandlesAndKeysWriteTheBoxsInlineStyleOneUndoStepEach) {
-    const QString box = R"(<div id="box" style="%1">text</div>)";
-    const QString placed = "position: absolute; left: 40px; top: 30px; width: 100px; height: 60px;";
+    const QString box = R"(<div id="box" style="position: absolute; %1">text</div>)";
+    const QString place = "left: %1px; top: %2px; width: %3px; height: %4px;";
+    enum Mode { Plain, Snap, Browse };
     const struct {
         const char* what;
-        bool snap, browse;
-        QString style;
+        Mode mode;
         QPoint press, by;
-        Qt::Key key; // instead of the drag
-        QString after;
+        Qt::Key key; // instead of a drag
+        int left, top, width, height;
     } cases[] = {
-        {"move",
-         false,
-         false,
-         placed,
-         {90, 60},
-         {23, 17},
-         Qt::Key_unknown,
-         "position: absolute; left: 63px; top: 47px; width: 100px; height: 60px;"},
-        {"move on the grid",
-         true,
-         false,
-         placed,
-         {90, 60},
-         {23, 17},
-         Qt::Key_unknown,
-         "position: absolute; left: 60px; top: 50px; width: 100px; height: 60px;"},
-        {"bottom right handle",
-         false,
-         false,
-         placed,
-         {139, 89},
-         {20, 11},
-         Qt::Key_unknown,
-         "position: absolute; left: 40px; top: 30px; width: 120px; height: 71px;"},
-        {"top left handle on the grid",
-         true,
-         false,
-         placed,
-         {40, 30},
-         {13, 4},
-         Qt::Key_unknown,
-         "position: absolute; left: 50px; top: 30px; width: 90px; height: 60px;"},
-        {"nudge",
-         false,
-         false,
-         placed,
-         {90, 60},
-         {},
-         Qt::Key_Right,
-         "position: absolute; left: 41px; top: 30px; width: 100px; height: 60px;"},
-        {"nudge to the grid line",
-         true,
-         false,
-         "position: absolute; left: 43px; top: 30px;",
-         {50, 38},
-         {},
-         Qt::Key_Up,
-         "position: absolute; left: 43px; top: 20px;"},
-        {"a box in the flow is placed where it stood",
-         false,
-         false,
-         "width: 100px;",
-         {30, 15},
-         {10, 5},
-         Qt::Key_unknown,
-         "width: 100px; position: absolute; left: 18px; top: 13px;"},
-        {"browse mode", false, true, placed, {90, 60}, {23, 17}, Qt::Key_unknown, placed},
-        {"nor keys in browse mode", false, true, placed, {90, 60}, {}, Qt::Key_Down, placed},
+        {"move", Plain, {90, 60}, {23, 17}, {}, 66, 47, 100, 60},
+        {"move on the grid", Snap, {90, 60}, {23, 17}, {}, 70, 50, 100, 60},
+        {"bottom right handle", Plain, {142, 89}, {20, 11}, {}, 43, 30, 120, 71},
+        {"top left handle on the grid", Snap, {43, 30}, {13, 4}, {}, 60, 30, 83, 60},
+        {"nudge", Plain, {90, 60}, {}, Qt::Key_Right, 44, 30, 100, 60},
+        {"nudge to the next grid line", Snap, {90, 60}, {}, Qt::Key_Right, 50, 30, 100, 60},
+        {"no drag in browse mode", Browse, {90, 60}, {23, 17}, {}, 43, 30, 100, 60},
+        {"no key in browse mode", Browse, {90, 60}, {}, Qt::Key_Down, 43, 30, 100, 60},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        work().setSnapToGrid(c.snap);
-        work().setBrowseMode(c.browse);
-        work().setDocumentHTML(box.arg(c.style));
+        work().setSnapToGrid(c.mode == Snap);
+        work().setBrowseMode(c.mode == Browse);
+        work().setDocumentHTML(box.arg(place.arg(43).arg(30).arg(100).arg(60)));
         const QString before = body(work());
         // A click selects the box; then a drag from the same point, or a key.
         QWidget* view = input(work());
         QTest::mouseClick(view, Qt::LeftButton, {}, c.press);
-        if (c.key == Qt::Key_unknown)
-            drag(view, c.press, c.by);
-        else
+        if (c.key)
             QTest::keyClick(view, c.key);
-        const QString after = box.arg(c.after) + "\r\n";
-        EXPECT_TRUE(eventually([&] { return body(work()) == after; }, 1s))
+        else
+            drag(view, c.press, c.by);
+        const QString after = box.arg(place.arg(c.left).arg(c.top).arg(c.width).arg(c.height));
+        EXPECT_TRUE(eventually([&] { return body(work()) == after + "\r\n"; }, 1s))
             << body(work()).toStdString();
-        if (c.browse)
+        if (c.mode == Browse)
             continue;
         EXPECT_EQ(evaluate(work(), "!!document.querySelector('zt-design')").toBool(), true);
         work().execCommand(DECMD_UNDO);
         EXPECT_EQ(body(work()), before);
     }
+
+    // A box in the flow is taken out of it where it stood, at the body's margin.
+    work().setBrowseMode(false);
+    work().setDocumentHTML(R"(<div style="width: 100px;">text</div>)");
+    drag(input(work()), {30, 15}, {10, 5});
+    EXPECT_TRUE(eventually([&] {
+        return body(work()).contains("width: 100px; position: absolute; left: 18px; top: 13px;");
+    }));
 }
 
 TEST_F(DesignSurface, ASecondClickPutsACaretInTheText) {
