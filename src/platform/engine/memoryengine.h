@@ -30,8 +30,8 @@ class Clipboard;
 // procedure call, as the real engine does.
 //
 // A design surface is only a flag here. A drop from a strip has no pointer to come
-// from: acceptDropsFrom remembers the strip, and dropFromStrip stands in for the
-// user's drag.
+// from: acceptDropsFrom remembers the strip (which must outlive this engine), and
+// dropFromStrip stands in for the user's drag.
 class MemoryEngine : public PageEngine {
 public:
     explicit MemoryEngine(Clipboard& clipboard);

@@ -62,7 +62,9 @@ public:
     void setSnapToGrid(bool on) override;
     void setDesignSurface(bool on) override;
     bool designSurface() const override { return m_designSurface; }
-    // The strip's mouse presses no longer reach its page: they pick up its content.
+    // What is carried is the whole of the strip's body. The strip's left-button
+    // presses no longer reach its page: they pick its content up. A strip that is
+    // not a WebPageEngine is passed over.
     void acceptDropsFrom(PageEngine& strip) override;
 
     void setFocus() override;
