@@ -393,6 +393,8 @@ function ztSetDesign(args) {
                 event.preventDefault();
         }, true);
         window.addEventListener('resize', () => ztRedrawFrameSoon(ztDesign()));
+        // A box that scrolls inside another takes its frame along.
+        window.addEventListener('scroll', () => ztRedrawFrameSoon(ztDesign()), true);
     }
     design.observer.disconnect();
     if (design.on)
