@@ -70,5 +70,22 @@ TEST(MemoryEngine, LoadURLKeepsTheAddressAndReadsLocalFiles) {
     EXPECT_EQ(engine.documentHTML(), pageWithMarker(QString()));
 }
 
+TEST(MemoryEngine, ADropFromTheStripAppendsACopyOfItsBodyThatUndoTakesBack) {
+    MemoryClipboard clipboard;
+    MemoryEngine strip(clipboard), work(clipboard);
+    const QString form = R"(<div id="MorvaneForm"></div>)";
+    const QString field = R"(<input type="text" name="a">)";
+    work.setDocumentHTML("<HTML><HEAD></HEAD><BODY>" + form + "</BODY></HTML>");
+    EXPECT_THROW(work.dropFromStrip(), RuntimeFailure) << "no strip";
+    work.acceptDropsFrom(strip);
+    EXPECT_THROW(work.dropFromStrip(), RuntimeFailure) << "an empty strip";
+    strip.setDocumentHTML(field);
+    work.dropFromStrip();
+    EXPECT_EQ(work.bodyContent(), form + field);
+    EXPECT_EQ(strip.bodyContent(), field);
+    work.execCommand(DECMD_UNDO);
+    EXPECT_EQ(work.bodyContent(), form);
+}
+
 } // namespace
 } // namespace zt::test

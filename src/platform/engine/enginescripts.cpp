@@ -22,9 +22,9 @@ QString resource(const QString& name) {
 const QString& library() {
     static const QString text = [] {
         QString all;
-        for (const char* name :
-             {"serialize.js", "editing.js", "history.js", "formatting.js", "pagedialogs.js",
-              "tables.js", "positioning.js", "dragging.js", "details.js", "surface.js", "load.js"})
+        for (const char* name : {"serialize.js", "editing.js", "history.js", "formatting.js",
+                                 "pagedialogs.js", "tables.js", "positioning.js", "dragging.js",
+                                 "details.js", "design.js", "surface.js", "load.js"})
             all += resource(QString::fromLatin1(name)) + u'\n';
         return all;
     }();

@@ -211,6 +211,23 @@ void MemoryEngine::loadURL(const QString& url) {
         newDocument();
 }
 
+void MemoryEngine::dropFromStrip() {
+    requireEditable();
+    if (!m_strip)
+        throw RuntimeFailure::invalidProcedureCall();
+    const QString strip = m_strip->documentHTML();
+    const auto body = firstStartTag(strip, QStringLiteral("body"));
+    const qsizetype end = strip.lastIndexOf(QLatin1String("</BODY>"));
+    const QString content = body.hasMatch() && end > body.capturedEnd()
+                                ? strip.mid(body.capturedEnd(), end - body.capturedEnd()).trimmed()
+                                : QString();
+    if (content.isEmpty())
+        throw RuntimeFailure::invalidProcedureCall();
+    remember();
+    const Span span = bodySpan();
+    m_text.insert(span.end, content);
+}
+
 void MemoryEngine::setSelection(int start, int length) {
     const int size = int(bodyContent().size());
     m_selectionStart = std::clamp(start, 0, size);

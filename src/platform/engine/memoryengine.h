@@ -28,6 +28,10 @@ class Clipboard;
 // table command outside <td>, a z-order command outside a <div> with a position,
 // nothing to undo or redo, an id this engine has no action for) throws 5, Invalid
 // procedure call, as the real engine does.
+//
+// A design surface is only a flag here. A drop from a strip has no pointer to come
+// from: acceptDropsFrom remembers the strip (which must outlive this engine), and
+// dropFromStrip stands in for the user's drag.
 class MemoryEngine : public PageEngine {
 public:
     explicit MemoryEngine(Clipboard& clipboard);
@@ -47,6 +51,15 @@ public:
     void setShowDetails(bool on) override { m_showDetails = on; }
     bool snapToGrid() const override { return m_snapToGrid; }
     void setSnapToGrid(bool on) override { m_snapToGrid = on; }
+    void setDesignSurface(bool on) override { m_designSurface = on; }
+    bool designSurface() const override { return m_designSurface; }
+    void acceptDropsFrom(PageEngine& strip) override { m_strip = &strip; }
+
+    // For tests: the user drags what the strip holds onto this page. A copy of the
+    // strip's body content goes at the end of the body, as one change that Undo takes
+    // back; the strip keeps its own. Fails with 5 when no strip was given, the strip
+    // is empty, or this page is in browse mode.
+    void dropFromStrip();
 
     void setFocus() override { ++m_focusCount; }
     bool isVisible() const override { return m_visible; }
@@ -104,6 +117,8 @@ private:
     bool m_browseMode = false;
     bool m_showDetails = false;
     bool m_snapToGrid = false;
+    bool m_designSurface = false;
+    PageEngine* m_strip = nullptr;
     bool m_visible = true;
     int m_focusCount = 0;
 };

@@ -14,6 +14,7 @@
 #include "platform/runtimefailure.h"
 #include "platform/textfiles.h"
 #include "requestpolicy.h"
+#include "stripdrag.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -299,6 +300,49 @@ void WebPageEngine::setSnapToGrid(bool on) {
         tellSurface();
 }
 
+void WebPageEngine::setDesignSurface(bool on) {
+    m_designSurface = on;
+    if (!m_browseMode)
+        tellSurface();
+}
+
+void WebPageEngine::acceptDropsFrom(PageEngine& strip) {
+    auto* source = dynamic_cast<WebPageEngine*>(&strip);
+    if (!source || source == this)
+        return;
+    source->m_dropTarget = this;
+    if (!source->m_stripDrag)
+        source->m_stripDrag = std::make_unique<StripDrag>(
+            [source](const QPoint& global) { source->dropOnTarget(global); });
+}
+
+// The strip's content goes in where the pointer was let go, when that is over the
+// target's page. The pages are asked after the event, outside the filter that saw it.
+void WebPageEngine::dropOnTarget(const QPoint& global) {
+    WebPageEngine* target = m_dropTarget;
+    if (!target || !target->m_view || target->m_browseMode || m_browseMode)
+        return;
+    QWidget* view = target->m_view;
+    const QPoint at = view->mapFromGlobal(global);
+    if (!view->isVisible() || !view->rect().contains(at))
+        return;
+    QTimer::singleShot(0, target, [strip = QPointer<WebPageEngine>(this), target, at] {
+        Guard::run([&] {
+            orEndSilently([&] {
+                if (!strip)
+                    return;
+                const QString html = strip->edit(QStringLiteral("stripContent"))
+                                         .value(QStringLiteral("html"))
+                                         .toString();
+                const qreal zoom = target->page()->zoomFactor();
+                target->edit(QStringLiteral("dropAt"),
+                             {{"html", html}, {"x", at.x() / zoom}, {"y", at.y() / zoom}});
+                target->setFocus();
+            });
+        });
+    });
+}
+
 void WebPageEngine::setFocus() {
     if (m_view)
         m_view->setFocus();
@@ -342,6 +386,9 @@ bool WebPageEngine::eventFilter(QObject* watched, QEvent* event) {
         if (onMouseMove)
             Guard::run([&] { onMouseMove(); });
     }
+    if (watched == m_inputWidget && m_stripDrag && m_dropTarget && !m_browseMode &&
+        m_stripDrag->filter(event))
+        return true;
     return QObject::eventFilter(watched, event);
 }
 
@@ -566,6 +613,7 @@ void WebPageEngine::tellSurface() {
         {"editing", !m_browseMode},
         {"snap", m_snapToGrid},
         {"details", m_showDetails},
+        {"design", m_designSurface},
     };
     m_page->runJavaScript(enginescripts::call("ztSetSurface", args),
                           QWebEngineScript::ApplicationWorld);

@@ -21,6 +21,7 @@ class Clipboard;
 class PageProfile;
 class PendingAnswer;
 class RequestPolicy;
+class StripDrag;
 
 // The visual engine: a Qt WebEngine view with the document in design mode.
 //
@@ -59,6 +60,12 @@ public:
     void setShowDetails(bool on) override;
     bool snapToGrid() const override { return m_snapToGrid; }
     void setSnapToGrid(bool on) override;
+    void setDesignSurface(bool on) override;
+    bool designSurface() const override { return m_designSurface; }
+    // What is carried is the whole of the strip's body. The strip's left-button
+    // presses no longer reach its page: they pick its content up. A strip that is
+    // not a WebPageEngine is passed over.
+    void acceptDropsFrom(PageEngine& strip) override;
 
     void setFocus() override;
     bool isVisible() const override;
@@ -97,6 +104,7 @@ private:
     bool showsOwnPage() const;
     void scheduleDisplayChanged();
     void watchInput();
+    void dropOnTarget(const QPoint& global);
 
     Clipboard& m_clipboard;
     std::shared_ptr<PageProfile> m_profile;
@@ -122,6 +130,10 @@ private:
     bool m_browseMode = false;
     bool m_showDetails = false;
     bool m_snapToGrid = false;
+    bool m_designSurface = false;
+    // For a strip: the page its content is dropped on, and the drag that carries it.
+    QPointer<WebPageEngine> m_dropTarget;
+    std::unique_ptr<StripDrag> m_stripDrag;
     // A navigation under way, and the serial of our page it goes to (0 for a page
     // asked for by address).
     bool m_navigating = false;

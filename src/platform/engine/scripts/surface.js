@@ -1,10 +1,13 @@
 // What the engine tells an editing surface about itself after each page it shows
-// and on each change: whether boxes snap to the grid and whether the details show.
-// A page in browse mode is told that it is not edited, and shows neither.
+// and on each change: whether boxes snap to the grid, whether the details show and
+// whether it is a design surface, where boxes are selected and moved as a whole
+// rather than by their edge. A page in browse mode is told that it is not edited,
+// and shows none of it.
 
-// args: editing, snap, details.
+// args: editing, snap, details, design.
 function ztSetSurface(args) {
-    ztSetMover({enabled: args.editing, snap: args.snap});
+    ztSetMover({enabled: args.editing && !args.design, snap: args.snap});
+    ztSetDesign({on: args.editing && args.design, snap: args.snap});
     ztSetDetails({on: args.editing && args.details});
     return {ok: true};
 }
