@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLayout>
 #include <QPushButton>
 
 namespace zt {
@@ -85,7 +86,10 @@ QGroupBox* formTextArea::styleGroup() const {
 // Advanced only shows or hides the style group; what it holds counts either way.
 void formTextArea::chkAdvanced_Click() {
     styleGroup()->setVisible(ui.chkAdvanced->isChecked());
-    window()->adjustSize();
+    // The default text's box would keep the room the group gave up; the window
+    // shrinks back instead.
+    window()->layout()->activate();
+    window()->resize(window()->width(), window()->sizeHint().height());
 }
 
 void formTextArea::chkUseStyleTextarea_Click() {

@@ -49,6 +49,9 @@ formTextbox::formTextbox(FormRegistry& forms)
             {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
             {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
         });
+    ui.btnColour->setFixedWidth(
+        ui.btnColour->fontMetrics().horizontalAdvance(QStringLiteral("...")) * 3);
+    ui.btnBGColour->setFixedWidth(ui.btnColour->width());
     chkUseStyle_Click();
     onClick(ui.chkUseStyle, [this] { chkUseStyle_Click(); });
     onClick(ui.btnColour, [this] { btnColour_Click(); });
