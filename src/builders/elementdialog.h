@@ -52,7 +52,7 @@ public:
     // The cancel button, Esc, and the frame's close: the dialog unloads.
     void cancel();
     // The help button: the dialog's page in the help window.
-    void help();
+    virtual void help();
 
 protected:
     ElementDialog(FormRegistry& forms, Setup setup);

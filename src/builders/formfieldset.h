@@ -1,0 +1,36 @@
+#pragma once
+
+#include "elementdialog.h"
+
+#include "platform/textcontrol.h"
+
+class QListWidget;
+class QPushButton;
+
+namespace zt {
+
+class TextLineView;
+
+// Fieldset: a frame around a group of form fields, with an optional caption.
+class formFieldset : public ElementDialog {
+public:
+    explicit formFieldset(FormRegistry& forms);
+    ~formFieldset() override;
+
+    void txtCaption_Change();
+
+    struct Ui {
+        TextControl compOrEdit;
+        TextControl txtCaption;
+        TextLineView* txtCaptionView = nullptr;
+        QListWidget* listAlign = nullptr;
+        QPushButton* btnInsert = nullptr;
+        QPushButton* CancelButton = nullptr;
+        QPushButton* btnHelp = nullptr;
+    } ui;
+
+protected:
+    QString fragment() override;
+};
+
+} // namespace zt

@@ -1,0 +1,46 @@
+#include "formhidden.h"
+
+#include "fieldgen.h"
+
+#include "platform/services.h"
+#include "platform/textlineview.h"
+
+#include <QPushButton>
+
+namespace zt {
+
+formHidden::formHidden(FormRegistry& forms)
+    : ElementDialog(forms, {.name = "formHidden",
+                            .caption = QStringLiteral("Insert Hidden Element : Zelvo"),
+                            .helpPage = QStringLiteral("hidden.zhp"),
+                            .shape = Dispatch::CompFirst}) {
+    build(ui.compOrEdit, {
+                             // control, caption, default, place
+                             {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
+                             {text("txtValue", ui.txtValue, ui.txtValueView), "&Value:"},
+                             {button("btnInsert", ui.btnInsert), "Insert", "", Place::Accept},
+                             {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
+                             {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
+                         });
+}
+
+formHidden::~formHidden() = default;
+
+// Its own plain box, without an icon or a title of its own, unlike the other fields.
+void formHidden::accept() {
+    if (ui.txtName.text().isEmpty()) {
+        services().prompts->msgBox(QStringLiteral("Invalid name"));
+        ui.txtNameView->setFocus();
+        return;
+    }
+    ElementDialog::accept();
+}
+
+QString formHidden::fragment() {
+    const QString tag = hiddenTag(ui.txtName.text(), ui.txtValue.text());
+    if (ui.compOrEdit.text() == caller::kComp)
+        return QStringLiteral("<body>") + tag + QStringLiteral("</body>");
+    return tag;
+}
+
+} // namespace zt

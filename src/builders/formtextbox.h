@@ -1,0 +1,70 @@
+#pragma once
+
+#include "elementdialog.h"
+
+#include "platform/commondialog.h"
+#include "platform/textcontrol.h"
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+class QRadioButton;
+
+namespace zt {
+
+class Pickers;
+class TextLineView;
+
+// Insert Text Box: a one-line text or password <INPUT>, with an optional style. Its
+// opener gives it its caption. It does not float above other windows, and an empty
+// name closes it after the warning.
+class formTextbox : public ElementDialog {
+public:
+    explicit formTextbox(FormRegistry& forms);
+    ~formTextbox() override;
+
+    // Fills the font list.
+    void load() override;
+    void accept() override;
+
+    void chkUseStyle_Click();
+    void btnColour_Click();
+    void btnBGColour_Click();
+
+    struct Ui {
+        explicit Ui(Pickers& pickers) : comdlg(pickers) {}
+
+        TextControl compOrEdit;
+        TextControl txtName;
+        TextLineView* txtNameView = nullptr;
+        TextControl txtDefault;
+        TextLineView* txtDefaultView = nullptr;
+        TextControl txtMaxLen;
+        TextLineView* txtMaxLenView = nullptr;
+        TextControl txtSize;
+        TextLineView* txtSizeView = nullptr;
+        TextControl txtTab;
+        TextLineView* txtTabView = nullptr;
+        QRadioButton* radYes = nullptr;
+        QRadioButton* radNo = nullptr;
+        QCheckBox* chkReadOnly = nullptr;
+        QCheckBox* chkUseStyle = nullptr;
+        QComboBox* cmbcolour = nullptr;
+        QPushButton* btnColour = nullptr;
+        QComboBox* cmbbgcolour = nullptr;
+        QPushButton* btnBGColour = nullptr;
+        QComboBox* listFont = nullptr;
+        QComboBox* cmbFontSize = nullptr;
+        QCheckBox* chkBold = nullptr;
+        QCheckBox* chkItalics = nullptr;
+        QPushButton* btnInsert = nullptr;
+        QPushButton* CancelButton = nullptr;
+        QPushButton* btnHelp = nullptr;
+        CommonDialog comdlg;
+    } ui;
+
+protected:
+    QString fragment() override;
+};
+
+} // namespace zt
