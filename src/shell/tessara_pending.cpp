@@ -15,7 +15,6 @@ void Tessara::mnuMetaGen() {}
 void Tessara::mnuInsRectBox() {}
 void Tessara::mnuPageTitle() {}
 void Tessara::mnuMorvane() {}
-void Tessara::mnuInsForm() {}
 void Tessara::mnuTextBox() {}
 void Tessara::mnuPassword() {}
 void Tessara::mnuTextArea() {}
@@ -24,7 +23,6 @@ void Tessara::mnuCheckbox() {}
 void Tessara::mnuButton() {}
 void Tessara::mnuSubmit() {}
 void Tessara::mnuReset() {}
-void Tessara::mnuList() {}
 void Tessara::mnuInsFile() {}
 void Tessara::mnuFieldset() {}
 void Tessara::mnuHidden() {}
@@ -37,7 +35,6 @@ void Tessara::mnuPrevTextSel() {}
 void Tessara::mnuCrashRecover() {}
 void Tessara::mnuText() {}
 void Tessara::mnuMarquee() {}
-void Tessara::mnuListLinks() {}
 void Tessara::mnuInsLayer() {}
 void Tessara::mnuFlash() {}
 void Tessara::mnuStripHTML() {}

@@ -14,10 +14,7 @@ void Zelvo::mnuMetaGen() {}
 void Zelvo::mnuEditProperties() {}
 void Zelvo::mnuFont() {}
 void Zelvo::mnuPageTitle() {}
-void Zelvo::mnuBullets() {}
-void Zelvo::mnuNumbering() {}
 void Zelvo::mnuMorvane() {}
-void Zelvo::mnuiForm() {}
 void Zelvo::mnuTextBox() {}
 void Zelvo::mnuPassword() {}
 void Zelvo::mnuTextArea() {}
@@ -26,7 +23,6 @@ void Zelvo::mnuSubmit() {}
 void Zelvo::mnuReset() {}
 void Zelvo::mnuRadio() {}
 void Zelvo::mnuCheckbox() {}
-void Zelvo::mnuDropDown() {}
 void Zelvo::mnuFileUpload() {}
 void Zelvo::mnuFieldset() {}
 void Zelvo::mnuHidden() {}
@@ -41,7 +37,6 @@ void Zelvo::mnuProtectText() {}
 void Zelvo::mnuCrashWizard() {}
 void Zelvo::mnuText() {}
 void Zelvo::mnuMarquee() {}
-void Zelvo::mnuListLinks() {}
 void Zelvo::mnuInsLayer() {}
 void Zelvo::mnuFlash() {}
 void Zelvo::mnuMakeDefault() {}
