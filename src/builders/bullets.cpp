@@ -16,7 +16,7 @@ bullets::bullets(FormRegistry& forms)
                             .caption = QStringLiteral("Bullets And Numbering : Zelvo"),
                             .helpPage = QStringLiteral("bulnum.zhp"),
                             .shape = Dispatch::SourceOnly}),
-      pointList(*this, ui, {.pointsCaption = QStringLiteral("Po&ints:")}) {
+      pointList(*this, ui, {.pointsCaption = QStringLiteral("P&oints:")}) {
     build(ui.compOrEdit, {
                              // control, caption, default, place, limits
                              {group("grpKind"), "List", "", Place::Line},

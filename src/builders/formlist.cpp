@@ -8,7 +8,8 @@
 
 namespace zt {
 
-Controls selectFields(SelectControls& ui, const std::function<void(TextControl&)>& numeric) {
+Controls selectDialog(SelectControls& ui, const std::function<void(TextControl&)>& numeric,
+                      PointList& points, const Control& accept) {
     return {
         // control, caption, default, place, limits, warning when empty
         {text("txtName", ui.txtName, ui.txtNameView),
@@ -22,6 +23,10 @@ Controls selectFields(SelectControls& ui, const std::function<void(TextControl&)
         {group("grpMultiple"), "Allow Multiple Selections", "", Place::Line},
         {option("radYes", ui.radYes), "&Yes", "", Place::InGroup},
         {option("radNo", ui.radNo), "N&o", "1", Place::InGroup},
+        {points.editor(), "", "", Place::Line},
+        accept,
+        {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
+        {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
     };
 }
 
@@ -39,15 +44,8 @@ formList::formList(FormRegistry& forms)
       pointList(*this, ui,
                 {.pointsCaption = QStringLiteral("Opt&ions:"),
                  .clearAsks = vbYesNo | vbQuestion | vbDefaultButton2}) {
-    Controls controls = selectFields(ui, numeric());
-    controls.insert(controls.end(),
-                    {
-                        {pointList.editor(), "", "", Place::Line},
-                        {button("OKButton", ui.OKButton), "OK", "", Place::Accept},
-                        {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-                        {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
-                    });
-    build(ui.compOrEdit, controls);
+    build(ui.compOrEdit, selectDialog(ui, numeric(), pointList,
+                                      {button("OKButton", ui.OKButton), "OK", "", Place::Accept}));
 }
 
 formList::~formList() = default;

@@ -24,10 +24,14 @@ struct SelectControls {
     TextLineView* txtTabView = nullptr;
     QRadioButton* radYes = nullptr;
     QRadioButton* radNo = nullptr;
+    QPushButton* CancelButton = nullptr;
+    QPushButton* btnHelp = nullptr;
 };
 
-// The rows of a dialog's table for these fields; the name must be filled in.
-Controls selectFields(SelectControls& ui, const std::function<void(TextControl&)>& numeric);
+// The table of such a dialog: these fields, the name required, then the points and
+// the foot buttons, accept being the dialog's own.
+Controls selectDialog(SelectControls& ui, const std::function<void(TextControl&)>& numeric,
+                      PointList& points, const Control& accept);
 SelectValues selectValues(const SelectControls& ui);
 
 // List: a drop-down or scrolling selection list of the points entered, for the
@@ -43,8 +47,6 @@ public:
     struct Ui : SelectControls, PointControls {
         TextControl compOrEdit;
         QPushButton* OKButton = nullptr;
-        QPushButton* CancelButton = nullptr;
-        QPushButton* btnHelp = nullptr;
     } ui;
     PointList pointList;
 

@@ -11,7 +11,7 @@ ListURLs::ListURLs(FormRegistry& forms)
                             .caption = QStringLiteral("List With Linked Points : Zelvo"),
                             .helpPage = QStringLiteral("linkedlists.zhp")}),
       pointList(*this, ui,
-                {.pointsCaption = QStringLiteral("Opt&ions"),
+                {.pointsCaption = QStringLiteral("Options"),
                  .linked = true,
                  .hidesAround = true,
                  .removeWarning = QStringLiteral(
@@ -19,15 +19,9 @@ ListURLs::ListURLs(FormRegistry& forms)
                  .removeFocusesButton = false,
                  .clearAsks = vbYesNo,
                  .clearFocusesPoints = false}) {
-    Controls controls = selectFields(ui, numeric());
-    controls.insert(controls.end(),
-                    {
-                        {pointList.editor(), "", "", Place::Line},
-                        {button("btnInsert", ui.btnInsert), "&Insert", "", Place::Accept},
-                        {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-                        {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
-                    });
-    build(ui.compOrEdit, controls);
+    build(ui.compOrEdit,
+          selectDialog(ui, numeric(), pointList,
+                       {button("btnInsert", ui.btnInsert), "&Insert", "", Place::Accept}));
 }
 
 ListURLs::~ListURLs() = default;

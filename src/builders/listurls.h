@@ -18,8 +18,6 @@ public:
     struct Ui : SelectControls, PointControls {
         TextControl compOrEdit;
         QPushButton* btnInsert = nullptr;
-        QPushButton* CancelButton = nullptr;
-        QPushButton* btnHelp = nullptr;
     } ui;
     PointList pointList;
 
