@@ -14,8 +14,6 @@ void Tessara::mnuColourPicker() {}
 void Tessara::mnuMetaGen() {}
 void Tessara::mnuInsRectBox() {}
 void Tessara::mnuPageTitle() {}
-void Tessara::mnuInsForm() {}
-void Tessara::mnuList() {}
 void Tessara::mnuPageProps() {}
 void Tessara::mnuRestore() {}
 void Tessara::mnuSpellCheck() {}
@@ -25,7 +23,6 @@ void Tessara::mnuPrevTextSel() {}
 void Tessara::mnuCrashRecover() {}
 void Tessara::mnuText() {}
 void Tessara::mnuMarquee() {}
-void Tessara::mnuListLinks() {}
 void Tessara::mnuInsLayer() {}
 void Tessara::mnuFlash() {}
 void Tessara::mnuStripHTML() {}

@@ -14,10 +14,6 @@ void Zelvo::mnuMetaGen() {}
 void Zelvo::mnuEditProperties() {}
 void Zelvo::mnuFont() {}
 void Zelvo::mnuPageTitle() {}
-void Zelvo::mnuBullets() {}
-void Zelvo::mnuNumbering() {}
-void Zelvo::mnuiForm() {}
-void Zelvo::mnuDropDown() {}
 void Zelvo::mnuRectangularBox() {}
 void Zelvo::mnuSpell() {}
 void Zelvo::mnuShowTempClip() {}
@@ -29,7 +25,6 @@ void Zelvo::mnuProtectText() {}
 void Zelvo::mnuCrashWizard() {}
 void Zelvo::mnuText() {}
 void Zelvo::mnuMarquee() {}
-void Zelvo::mnuListLinks() {}
 void Zelvo::mnuInsLayer() {}
 void Zelvo::mnuFlash() {}
 void Zelvo::mnuMakeDefault() {}

@@ -9,10 +9,10 @@ using namespace zt;
 
 // Every form the program can load closes with a main window, unless it is named
 // here as one that stays, and those never do. The forms of the tests stand in
-// namespaces of their own.
+// namespaces of their own. The form dialog is not in the list: it stays open.
 TEST(Closing, EveryFormOfTheProgramIsInTheListOrStays) {
-    const QStringList stay{"Zelvo", "Tessara", "frmHelp",   "morvane",
-                           "MHelp", "Mwizard", "MeditHTML", "prewizard"};
+    const QStringList stay{"Zelvo", "Tessara",   "frmHelp",   "morvane", "MHelp",
+                           "Mwizard", "MeditHTML", "prewizard", "formForm"};
     ASSERT_TRUE(formNames().contains("rule"));
     for (const QString& name : formNames()) {
         if (!name.contains("::")) {
