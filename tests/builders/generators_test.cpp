@@ -1,5 +1,4 @@
 #include "builders/colours.h"
-#include "builders/highlightgen.h"
 #include "builders/rulegen.h"
 
 #include <gtest/gtest.h>
@@ -20,12 +19,6 @@ TEST(Generators, RuleTag) {
     };
     for (const auto& c : cases)
         EXPECT_EQ(ruleTag(c.values), c.tag);
-}
-
-// The visual view's colour stays as picked; the dialog's goes into capitals.
-TEST(Generators, VisualHighlightSpan) {
-    EXPECT_EQ(visualHighlightSpan({"yellow", "x"}),
-              R"(<span style="background-color:yellow">x</span> &nbsp;)");
 }
 
 TEST(Generators, HexColourReadsThePickersValueBlueFirst) {

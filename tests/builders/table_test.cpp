@@ -74,8 +74,7 @@ TEST(TableLoad, ARestoredClearWidthBoxDisablesTheWidthAndANonNumberIsRefused) {
     v.store("Table", "Rows", "two");
     table& t = v.program.forms->get<table>();
     EXPECT_EQ(t.ui.txtrow.text(), "");
-    ASSERT_EQ(v.program.prompts.asked.size(), 1u);
-    EXPECT_EQ(v.program.prompts.asked[0].text, "Please enter only valid numerical data");
+    EXPECT_EQ(v.asked(), QStringList{"Please enter only valid numerical data"});
     EXPECT_FALSE(t.ui.txtWidthView->isEnabled() || t.ui.radpixels->isEnabled() ||
                  t.ui.radpercentage->isEnabled());
     t.ui.chkwidth->setChecked(true);
@@ -150,8 +149,7 @@ TEST(TableDialog, AnEmptyCountPassesWhileTypingAndFailsAtOk) {
     t.ui.txtcol.setText("");
     EXPECT_TRUE(v.program.prompts.asked.empty());
     t.ui.OKButton->click();
-    ASSERT_EQ(v.program.failures.size(), 1u);
-    EXPECT_EQ(v.program.failures[0].number(), RuntimeFailure::TypeMismatch);
+    EXPECT_EQ(failure(v.program), RuntimeFailure::TypeMismatch);
     EXPECT_EQ(v.area().text(), "x");
 }
 
@@ -166,8 +164,7 @@ TEST(RowDialog, DigitsOnlyAndTheRowsGoToTheSourceView) {
     r.ui.txtrowView->selectAll();
     type(r.ui.txtrowView, "1.");
     EXPECT_EQ(r.ui.txtrow.text(), "1");
-    ASSERT_EQ(v.program.prompts.asked.size(), 1u);
-    EXPECT_EQ(v.program.prompts.asked[0].text, "Invalid Value");
+    EXPECT_EQ(v.asked(), QStringList{"Invalid Value"});
     r.ui.txtcol.setText("-");
     EXPECT_EQ(r.ui.txtcol.text(), "2") << "nothing left: back to 2";
     // Black empties the list's text; a cancel takes the earlier colour again.

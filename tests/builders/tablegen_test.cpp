@@ -1,12 +1,13 @@
 #include "builders/tablegen.h"
 
-#include "platform/runtimefailure.h"
+#include "support/failureof.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 
 using namespace zt;
+using namespace zt::test;
 
 namespace {
 
@@ -90,14 +91,8 @@ TEST(TableMarkup, CountsThatCannotBeReadFail) {
         {"columns beyond it", [] { return rowsMarkup({.rows = "1", .cols = "40000"}); },
          RuntimeFailure::Overflow},
     };
-    for (const auto& c : cases) {
-        try {
-            c.make();
-            ADD_FAILURE() << c.name;
-        } catch (const RuntimeFailure& failure) {
-            EXPECT_EQ(failure.number(), c.failure) << c.name;
-        }
-    }
+    for (const auto& c : cases)
+        EXPECT_EQ(failureOf([&] { c.make(); }), c.failure) << c.name;
 }
 
 TEST(TableMarkup, TheGridCountsByTheDigitsOfTheCell) {

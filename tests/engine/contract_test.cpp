@@ -26,18 +26,6 @@ protected:
 
     PageEngine& first() { return kit->first(); }
     PageEngine& second() { return kit->second(); }
-    // The body's content as the engine reads it back, without the line break that
-    // the real engine puts before </BODY>.
-    static std::string body(PageEngine& engine) {
-        const QString page = engine.documentHTML();
-        const qsizetype start = page.indexOf(QLatin1String("<BODY>")) + 6;
-        const qsizetype end = page.lastIndexOf(QLatin1String("</BODY>"));
-        return page.mid(start, end - start).trimmed().toStdString();
-    }
-    // A whole page around a body.
-    static QString page(const char* body) {
-        return QStringLiteral("<HTML><HEAD></HEAD><BODY>%1</BODY></HTML>").arg(QLatin1String(body));
-    }
     void select(PageEngine& engine, const QString& text) {
         ASSERT_TRUE(kit->selectText(engine, text)) << text.toStdString();
     }
@@ -110,25 +98,25 @@ TEST_P(EngineContract, EditsTakeTheSelectionThroughTheClipboard) {
         c.html ? kit->clipboard.setHtml(clip, QString()) : kit->clipboard.setText(clip);
         // What one engine copied, the other pastes.
         PageEngine& engine = c.command == DECMD_PASTE ? second() : first();
-        engine.setDocumentHTML(page(c.body));
+        setBody(engine, c.body);
         if (c.select)
             select(engine, QString::fromUtf8(c.select));
         else
             engine.execCommand(DECMD_SELECTALL);
         for (int i = 0; i < c.times; ++i)
             engine.execCommand(c.command);
-        EXPECT_EQ(body(engine), c.wantBody);
+        EXPECT_EQ(bodyOf(engine), c.wantBody);
         EXPECT_EQ(kit->clipboard.html().toStdString(), c.wantHtml);
     }
     EXPECT_EQ(kit->clipboard.text().toStdString(), "a < b & c\r\nd");
-    first().setDocumentHTML(page("<b>Hello</b> world"));
+    setBody(first(), "<b>Hello</b> world");
     first().execCommand(DECMD_SELECTALL);
     first().execCommand(DECMD_COPY);
     EXPECT_EQ(kit->clipboard.text().toStdString(), "Hello world");
 }
 
 TEST_P(EngineContract, CommandsThatDoNotApplyFailAndBrowseModeOnlyCopies) {
-    first().setDocumentHTML(page("<p>text</p>"));
+    setBody(first(), "<p>text</p>");
     const QString before = first().documentHTML();
     // Nothing is selected after a page is set, and the clipboard is empty.
     for (DhtmlCommand id : {DECMD_CUT, DECMD_DELETE, DECMD_PASTE, DECMD_BOLD, DECMD_INSERTTABLE,
@@ -146,7 +134,7 @@ TEST_P(EngineContract, CommandsThatDoNotApplyFailAndBrowseModeOnlyCopies) {
     EXPECT_NO_THROW(first().execCommand(DECMD_COPY));
     EXPECT_EQ(kit->clipboard.text().toStdString(), "earlier");
 
-    first().setDocumentHTML(page("<p>text</p>"));
+    setBody(first(), "<p>text</p>");
     first().setBrowseMode(true);
     first().execCommand(DECMD_SELECTALL);
     first().execCommand(DECMD_COPY);
@@ -154,7 +142,7 @@ TEST_P(EngineContract, CommandsThatDoNotApplyFailAndBrowseModeOnlyCopies) {
     for (DhtmlCommand id : {DECMD_CUT, DECMD_DELETE, DECMD_PASTE})
         EXPECT_NE(failureOf([&] { first().execCommand(id); }), 0) << int(id);
     first().setBrowseMode(false);
-    EXPECT_EQ(body(first()), "<p>text</p>");
+    EXPECT_EQ(bodyOf(first()), "<p>text</p>");
 }
 
 TEST_P(EngineContract, FilesLoadAndSave) {

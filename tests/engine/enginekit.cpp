@@ -107,4 +107,17 @@ QString pageWithMarker(const QString& body) {
            QStringLiteral("</BODY>\r\n</HTML>\r\n");
 }
 
+void setBody(PageEngine& engine, const char* body) {
+    engine.setDocumentHTML(
+        QStringLiteral("<HTML><HEAD></HEAD><BODY>%1</BODY></HTML>").arg(QLatin1String(body)));
+}
+
+std::string bodyOf(PageEngine& engine) {
+    const QString page = engine.documentHTML();
+    const qsizetype start = page.indexOf(QLatin1String("<BODY>")) + 6;
+    return page.mid(start, page.lastIndexOf(QLatin1String("</BODY>")) - start)
+        .trimmed()
+        .toStdString();
+}
+
 } // namespace zt::test

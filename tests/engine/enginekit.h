@@ -70,4 +70,9 @@ void writeBytes(const QString& path, const QByteArray& bytes);
 // The page that the engines write for a body, with the marker in its head.
 QString pageWithMarker(const QString& body);
 
+// Sets a bare page around body, and reads the body's content back without the line
+// break that the real engine puts before </BODY>.
+void setBody(PageEngine& engine, const char* body);
+std::string bodyOf(PageEngine& engine);
+
 } // namespace zt::test

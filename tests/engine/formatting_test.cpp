@@ -6,11 +6,6 @@
 #include "platform/engine/webengine.h"
 #include "support/failureof.h"
 
-#include <QApplication>
-#include <QKeyEvent>
-#include <QTest>
-#include <QWidget>
-
 #include <gtest/gtest.h>
 
 namespace zt::test {
@@ -22,17 +17,8 @@ protected:
         engine.setBrowseMode(false);
         EngineKit::pair(EngineKind::Web).clipboard.clear();
     }
-    std::string body() {
-        const QString page = engine.documentHTML();
-        const qsizetype start = page.indexOf(QLatin1String("<BODY>")) + 6;
-        return page.mid(start, page.lastIndexOf(QLatin1String("</BODY>")) - start)
-            .trimmed()
-            .toStdString();
-    }
-    void load(const char* body) {
-        engine.setDocumentHTML(
-            QStringLiteral("<HTML><HEAD></HEAD><BODY>%1</BODY></HTML>").arg(QLatin1String(body)));
-    }
+    std::string body() { return bodyOf(engine); }
+    void load(const char* body) { setBody(engine, body); }
     // What the user does in the page, as the browser's own editing does it.
     void userTypes(const char* text) {
         evaluate(engine, QStringLiteral("document.execCommand('insertText', false, '%1')")
@@ -67,8 +53,6 @@ TEST_F(Formatting, EachCommandActsOnTheSelectionAndUndoTakesItBack) {
         {"<p>two</p>", "two", DECMD_JUSTIFYRIGHT, R"(<p style="text-align: right;">two</p>)"},
         {R"(<p align="center">two</p>)", "two", DECMD_JUSTIFYLEFT,
          R"(<p align="center" style="text-align: left;">two</p>)"},
-        {"<p>one two</p>", "two", DECMD_DELETE, "<p>one </p>"},
-        {"<p>one two</p>", "one", DECMD_SELECTALL, "<p>one two</p>"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.body);
@@ -77,8 +61,6 @@ TEST_F(Formatting, EachCommandActsOnTheSelectionAndUndoTakesItBack) {
         ASSERT_TRUE(engine.selectText(QString::fromUtf8(c.select)));
         engine.execCommand(c.id);
         EXPECT_EQ(body(), c.want);
-        if (c.id == DECMD_SELECTALL)
-            continue;
         engine.execCommand(DECMD_UNDO);
         EXPECT_EQ(body(), before);
         engine.execCommand(DECMD_REDO);

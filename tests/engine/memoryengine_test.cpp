@@ -17,7 +17,7 @@ namespace {
 TEST(MemoryEngine, SelectionByOffsetsInTheBodyContent) {
     MemoryClipboard clipboard;
     MemoryEngine engine(clipboard);
-    engine.setDocumentHTML(QStringLiteral("<HTML><HEAD></HEAD><BODY><p>abc</p></BODY></HTML>"));
+    setBody(engine, "<p>abc</p>");
     EXPECT_EQ(engine.bodyContent().toStdString(), "<p>abc</p>");
 
     const struct {

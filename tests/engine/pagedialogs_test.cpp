@@ -16,7 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -93,17 +92,10 @@ protected:
     void TearDown() override { engine.setBrowseMode(false); }
 
     void show(const char* body, const char* selection) {
-        engine.setDocumentHTML(
-            QStringLiteral("<HTML><HEAD></HEAD><BODY>%1</BODY></HTML>").arg(QLatin1String(body)));
+        setBody(engine, body);
         evaluate(engine, QLatin1String(kSelect) + QLatin1String(selection));
     }
-    std::string body() {
-        const QString page = engine.documentHTML();
-        const qsizetype start = page.indexOf(QLatin1String("<BODY>")) + 6;
-        return page.mid(start, page.lastIndexOf(QLatin1String("</BODY>")) - start)
-            .trimmed()
-            .toStdString();
-    }
+    std::string body() { return bodyOf(engine); }
     // Where the selection starts in the body's text, and what it holds.
     std::string selection() {
         return evaluate(engine, QStringLiteral(R"((() => {
@@ -121,115 +113,63 @@ protected:
 };
 
 TEST_F(PageDialogs, FontPictureAndLinkApplyWhatTheUserChose) {
-    using Values = std::map<std::string, std::string>;
+    // Fields as name=value;... and the buttons clicked: every click but the last
+    // leaves the dialog open with a message.
     const struct {
         DhtmlCommand command;
-        const char* body;
-        const char* selection;
-        Values prefilled, typed;
-        // Every click but the last leaves the dialog open with a message.
-        std::vector<std::string> clicks;
+        const char *body, *selection, *prefilled, *typed, *clicks;
         const char* expected; // nullptr: the page as it was
         int failure;
         bool shown = true;
     } cases[] = {
-        {DECMD_FONT,
-         "<p>one two</p>",
-         "select('two', 0, 3)",
-         {{"cmbSize", "3"}, {"txtColour", "#000000"}},
-         {{"cmbFace", "Courier"}, {"cmbSize", "5"}, {"txtColour", "#ff0000"}},
-         {"OKButton"},
-         R"(<p>one <font face="Courier" size="5" color="#ff0000">two</font></p>)",
-         0},
-        {DECMD_FONT,
-         "<p>one two</p>",
-         "select('two', 0, 3)",
-         {},
-         {{"cmbSize", "7"}},
-         {"CancelButton"},
-         nullptr,
-         RuntimeFailure::Cancel},
-        {DECMD_FONT,
-         "<p>one two</p>",
-         "select('two', 1, 1)",
-         {},
-         {},
-         {},
-         nullptr,
-         RuntimeFailure::InvalidProcedureCall,
-         false},
-        {DECMD_IMAGE,
-         "<p>ab</p>",
-         "select('ab', 1, 1)",
-         {{"txtSource", ""}},
-         {{"txtSource", "pics/a b.png"}, {"txtAlternate", "A"}, {"txtWidth", "20"}},
-         {"OKButton"},
-         R"(<p>a<img src="pics/a b.png" alt="A" width="20">b</p>)",
-         0},
-        {DECMD_IMAGE,
-         "<p>a<img src=\"x.png\" alt=\"old\" width=\"5\">b</p>",
-         "select(null)",
-         {{"txtSource", "x.png"}, {"txtAlternate", "old"}, {"txtWidth", "5"}},
-         {{"txtAlternate", ""}, {"txtHeight", "10"}},
-         {"OKButton"},
-         R"(<p>a<img src="x.png" width="5" height="10">b</p>)",
-         0},
-        {DECMD_IMAGE,
-         "<p>ab</p>",
-         "select('ab', 0, 2)",
-         {},
-         {{"txtAlternate", "A"}},
-         {"OKButton", "CancelButton"},
-         nullptr,
-         RuntimeFailure::Cancel},
-        {DECMD_HYPERLINK,
-         "<p>one two</p>",
-         "select('two', 0, 3)",
-         {{"txtAddress", "http://"}},
-         {{"txtAddress", "a.html"}},
-         {"OKButton"},
-         R"(<p>one <a href="a.html">two</a></p>)",
-         0},
-        {DECMD_HYPERLINK,
-         "<p><a href=\"old.html\">go</a> on</p>",
-         "select('go', 1, 1)",
-         {{"txtAddress", "old.html"}},
-         {{"txtAddress", "new.html"}},
-         {"OKButton"},
-         R"(<p><a href="new.html">go</a> on</p>)",
-         0},
-        {DECMD_HYPERLINK,
-         "<p>ab</p>",
-         "select('ab', 1, 1)",
-         {},
-         {{"txtAddress", "x.html"}},
-         {"OKButton"},
-         R"(<p>a<a href="x.html">x.html</a>b</p>)",
-         0},
-        {DECMD_HYPERLINK,
-         "<p>ab</p>",
-         "select('ab', 0, 2)",
-         {},
-         {{"txtAddress", "http://"}},
-         {"OKButton", "OKButton", "CancelButton"},
-         nullptr,
-         RuntimeFailure::Cancel},
+        {DECMD_FONT, "<p>one two</p>", "select('two', 0, 3)", "cmbSize=3;txtColour=#000000",
+         "cmbFace=Courier;cmbSize=5;txtColour=#ff0000", "OKButton",
+         R"(<p>one <font face="Courier" size="5" color="#ff0000">two</font></p>)", 0},
+        {DECMD_FONT, "<p>one two</p>", "select('two', 0, 3)", "", "cmbSize=7", "CancelButton",
+         nullptr, RuntimeFailure::Cancel},
+        {DECMD_FONT, "<p>one two</p>", "select('two', 1, 1)", "", "", "", nullptr,
+         RuntimeFailure::InvalidProcedureCall, false},
+        {DECMD_IMAGE, "<p>ab</p>", "select('ab', 1, 1)",
+         "txtSource=", "txtSource=pics/a b.png;txtAlternate=A;txtWidth=20", "OKButton",
+         R"(<p>a<img src="pics/a b.png" alt="A" width="20">b</p>)", 0},
+        {DECMD_IMAGE, "<p>a<img src=\"x.png\" alt=\"old\" width=\"5\">b</p>", "select(null)",
+         "txtSource=x.png;txtAlternate=old;txtWidth=5", "txtAlternate=;txtHeight=10", "OKButton",
+         R"(<p>a<img src="x.png" width="5" height="10">b</p>)", 0},
+        {DECMD_IMAGE, "<p>ab</p>", "select('ab', 0, 2)", "", "txtAlternate=A",
+         "OKButton CancelButton", nullptr, RuntimeFailure::Cancel},
+        {DECMD_HYPERLINK, "<p>one two</p>", "select('two', 0, 3)", "txtAddress=http://",
+         "txtAddress=a.html", "OKButton", R"(<p>one <a href="a.html">two</a></p>)", 0},
+        {DECMD_HYPERLINK, "<p><a href=\"old.html\">go</a> on</p>", "select('go', 1, 1)",
+         "txtAddress=old.html", "txtAddress=new.html", "OKButton",
+         R"(<p><a href="new.html">go</a> on</p>)", 0},
+        {DECMD_HYPERLINK, "<p>ab</p>", "select('ab', 1, 1)", "", "txtAddress=x.html", "OKButton",
+         R"(<p>a<a href="x.html">x.html</a>b</p>)", 0},
+        {DECMD_HYPERLINK, "<p>ab</p>", "select('ab', 0, 2)", "", "txtAddress=http://",
+         "OKButton OKButton CancelButton", nullptr, RuntimeFailure::Cancel},
+    };
+    const auto fields = [](const char* list) {
+        std::vector<std::pair<std::string, std::string>> named;
+        for (const QString& field : QString::fromUtf8(list).split(';', Qt::SkipEmptyParts))
+            named.emplace_back(field.section('=', 0, 0).toStdString(),
+                               field.section('=', 1).toStdString());
+        return named;
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.body) + " " + c.selection);
         show(c.body, c.selection);
         const std::string before = body();
         DialogAnswer answer([&](QWidget& dialog) {
-            for (const auto& [name, value] : c.prefilled)
+            for (const auto& [name, value] : fields(c.prefilled))
                 EXPECT_EQ(text(dialog, name), value) << name;
-            for (const auto& [name, value] : c.typed)
+            for (const auto& [name, value] : fields(c.typed))
                 fill(dialog, name, value);
-            for (size_t i = 0; i < c.clicks.size(); ++i) {
-                find<QAbstractButton>(dialog, c.clicks[i])->click();
-                if (i + 1 < c.clicks.size()) {
+            const QStringList clicks = QString::fromUtf8(c.clicks).split(' ', Qt::SkipEmptyParts);
+            for (qsizetype i = 0; i < clicks.size(); ++i) {
+                find<QAbstractButton>(dialog, clicks[i].toStdString())->click();
+                if (i + 1 < clicks.size()) {
                     EXPECT_TRUE(dialog.isVisible());
                     EXPECT_NE(message(dialog), "");
-                    fill(dialog, c.typed.begin()->first, "");
+                    fill(dialog, fields(c.typed)[0].first, "");
                 }
             }
         });

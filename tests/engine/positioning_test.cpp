@@ -37,31 +37,32 @@ TEST_F(Positioning, StackingCommandsSetTheZIndexOfTheBoxOfTheSelection) {
     const QString page = QStringLiteral(R"(<div style="position: absolute; z-index: 3;">high</div>)"
                                         R"(<p style="position: relative; z-index: -2;">low</p>)"
                                         R"(<div id="box" style="%1">in <b>bold</b></div>)");
+    // The box's position and other properties, its z-index before and after (none:
+    // kNone), and the text selected (nullptr: the box itself, whole).
+    const int kNone = 100;
     const struct {
         DhtmlCommand id;
-        const char* before;
-        const char* after;
-        const char* select; // nullptr: the box itself, whole
+        const char* position;
+        int before, after;
+        const char* select;
     } cases[] = {
-        {DECMD_BRING_TO_FRONT, "position: absolute; color: red;",
-         "position: absolute; color: red; z-index: 4;", "bold"},
-        {DECMD_BRING_TO_FRONT, "position: absolute;", "position: absolute; z-index: 4;", nullptr},
-        {DECMD_SEND_TO_BACK, "position: absolute; z-index: 9;", "position: absolute; z-index: -3;",
-         "in"},
-        {DECMD_BRING_FORWARD, "position: relative; z-index: 7;", "position: relative; z-index: 8;",
-         "bold"},
-        {DECMD_SEND_BACKWARD, "position: fixed;", "position: fixed; z-index: -1;", "in"},
-        {DECMD_BRING_ABOVE_TEXT, "position: absolute; z-index: -5;",
-         "position: absolute; z-index: 1;", "in"},
-        {DECMD_BRING_ABOVE_TEXT, "position: absolute; z-index: 2;",
-         "position: absolute; z-index: 2;", "in"},
-        {DECMD_SEND_BELOW_TEXT, "position: absolute;", "position: absolute; z-index: -1;", "in"},
-        {DECMD_SEND_BELOW_TEXT, "position: absolute; z-index: -4;",
-         "position: absolute; z-index: -4;", "in"},
+        {DECMD_BRING_TO_FRONT, "absolute; color: red", kNone, 4, "bold"},
+        {DECMD_BRING_TO_FRONT, "absolute", kNone, 4, nullptr},
+        {DECMD_SEND_TO_BACK, "absolute", 9, -3, "in"},
+        {DECMD_BRING_FORWARD, "relative", 7, 8, "bold"},
+        {DECMD_SEND_BACKWARD, "fixed", kNone, -1, "in"},
+        {DECMD_BRING_ABOVE_TEXT, "absolute", -5, 1, "in"},
+        {DECMD_BRING_ABOVE_TEXT, "absolute", 2, 2, "in"},
+        {DECMD_SEND_BELOW_TEXT, "absolute", kNone, -1, "in"},
+        {DECMD_SEND_BELOW_TEXT, "absolute", -4, -4, "in"},
+    };
+    const auto style = [](const char* position, int z) {
+        return QStringLiteral("position: %1;").arg(QLatin1String(position)) +
+               (z == kNone ? QString() : QStringLiteral(" z-index: %1;").arg(z));
     };
     for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.before) + " " + std::to_string(c.id));
-        engine.setDocumentHTML(page.arg(QLatin1String(c.before)));
+        SCOPED_TRACE(style(c.position, c.before).toStdString() + " " + std::to_string(c.id));
+        engine.setDocumentHTML(page.arg(style(c.position, c.before)));
         if (c.select)
             ASSERT_TRUE(engine.selectText(QLatin1String(c.select)));
         else
@@ -70,7 +71,7 @@ TEST_F(Positioning, StackingCommandsSetTheZIndexOfTheBoxOfTheSelection) {
                              "getSelection().removeAllRanges(); getSelection().addRange(r);");
         engine.execCommand(c.id);
         EXPECT_EQ(engine.documentHTML().toStdString(),
-                  pageWithMarker(page.arg(QLatin1String(c.after)) + "\r\n").toStdString());
+                  pageWithMarker(page.arg(style(c.position, c.after)) + "\r\n").toStdString());
     }
 
     // Outside any positioned box each of them fails and changes nothing.

@@ -115,7 +115,6 @@ TEST(PageFormat, LayoutModeFollowsTheDoctype) {
         {"", "BackCompat"},
         {"<!DOCTYPE html>\r\n", "CSS1Compat"},
         {"<!DOCTYPE html PUBLIC \"-//W3C//DTD HTML 4.0 Transitional//EN\">\r\n", "BackCompat"},
-        {"<!DOCTYPE html>\r\n", "CSS1Compat"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.doctype.toStdString());

@@ -16,10 +16,10 @@ namespace {
 
 // The body as the engine writes it, without the tbody the parser puts into a table.
 std::string body(PageEngine& engine) {
-    QString page = engine.documentHTML();
-    const qsizetype start = page.indexOf(QLatin1String("<BODY>")) + 6;
-    page = page.mid(start, page.lastIndexOf(QLatin1String("</BODY>")) - start).trimmed();
-    return page.remove(QLatin1String("<tbody>")).remove(QLatin1String("</tbody>")).toStdString();
+    return QString::fromStdString(bodyOf(engine))
+        .remove(QLatin1String("<tbody>"))
+        .remove(QLatin1String("</tbody>"))
+        .toStdString();
 }
 
 // Selects from the start of the text from to the end of the text to; with to empty,
@@ -34,11 +34,6 @@ void select(WebPageEngine& engine, const char* from, const char* to) {
     })())");
     evaluate(engine, *to ? extend.arg(QLatin1String(to)).arg(qstrlen(to))
                          : QStringLiteral("getSelection().collapseToStart()"));
-}
-
-void setBody(WebPageEngine& engine, const char* body) {
-    engine.setDocumentHTML(
-        QStringLiteral("<HTML><HEAD></HEAD><BODY>%1</BODY></HTML>").arg(QLatin1String(body)));
 }
 
 // A table written short: rows apart by '|', cells by blanks; '!' makes a header
