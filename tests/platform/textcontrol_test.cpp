@@ -57,27 +57,6 @@ TEST_F(TextControlTest, SelectionIsClampedAndNegativesFailWith380) {
     EXPECT_TRUE(changes.empty()) << "selection alone is no change";
 }
 
-TEST_F(TextControlTest, SelTextReplacesSelectionAndLeavesCaretBehindIt) {
-    struct Case {
-        const char *text, *inserted, *want;
-        int start, length, wantCaret;
-    };
-    const Case cases[] = {{"hello world", "there", "hello there", 6, 5, 11},
-                          {"hello", ">", ">hello", 0, 0, 1},
-                          {"hello", "\r\n", "hello\r\n", 5, 0, 7},
-                          {"a\r\nb", "", "ab", 1, 2, 1},
-                          {"abc", "", "ac", 1, 1, 1},
-                          {"abc", "x\r\ny\r\n", "x\r\ny\r\n", 0, 3, 6}};
-    for (const Case& c : cases) {
-        box.setText(q(c.text));
-        box.setSelStart(c.start);
-        box.setSelLength(c.length);
-        changes.clear();
-        box.setSelText(q(c.inserted));
-        EXPECT_EQ(changes, QStringList{QStringLiteral("%1 %2/0").arg(c.want).arg(c.wantCaret)});
-    }
-}
-
 TEST_F(TextControlTest, FailureInHandlerLeavesTextChangedAndStopsTheLaterHandlers) {
     bool later = false;
     box.addChangeHandler([] { throw RuntimeFailure::typeMismatch(); });
