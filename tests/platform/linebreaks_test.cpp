@@ -118,32 +118,3 @@ TEST(TextLineBreaks, PositionMapFollowsEditsAsAWalkOfTheText) {
         }
     }
 }
-
-// The replacement must rebuild the new text, and the same replacement carried to the
-// document must rebuild the new document: that is what the editor relies on.
-TEST(TextLineBreaks, DifferenceMapsOntoWholeBreaks) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"abc", "abc"},         {"abc", "aXc"},
-        {"", "a\r\nb"},         {"a\r\nb", ""},
-        {"a\r\nb", "ab"},       {"ab", "a\r\nb"},
-        {"a\r\nb", "a\r\r\nb"}, {"a\r\nb", "a\r\n\r\nb"},
-        {"a\rb", "a\r\nb"},     {"a\nb", "a\r\nb"},
-        {"a\r", "a\r\n"},       {"\nb", "\r\nb"},
-        {"a\r\n", "a\r"},       {"x\r\n\r\ny", "x\r\ny"},
-        {"aaa", "aaaa"},        {"a\r\nb\r\nc", "a\r\nX\r\nc"},
-    };
-    for (const auto& [beforeText, afterText] : cases) {
-        const QString before = q(beforeText);
-        const QString after = q(afterText);
-        const linebreaks::Replacement change = linebreaks::difference(before, after);
-        SCOPED_TRACE((before + QStringLiteral(" -> ") + after).toStdString());
-        EXPECT_EQ(QString(before).replace(change.start, change.removed, change.inserted), after);
-
-        const NaivePositions positions(before);
-        const int from = positions.toDocument[change.start];
-        const int to = positions.toDocument[change.start + change.removed];
-        EXPECT_EQ(linebreaks::toDocument(before).replace(from, to - from,
-                                                         linebreaks::toDocument(change.inserted)),
-                  linebreaks::toDocument(after));
-    }
-}

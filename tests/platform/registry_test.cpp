@@ -1,6 +1,5 @@
 #include "platform/engine/pageengine.h"
 #include "platform/formregistry.h"
-#include "platform/guard.h"
 #include "platform/textcontrol.h"
 #include "support/testprogram.h"
 

@@ -2,11 +2,8 @@
 
 #include "support/failureof.h"
 
-#include "platform/runtimefailure.h"
-
 #include <QString>
 
-#include <functional>
 #include <random>
 
 namespace zt::test {

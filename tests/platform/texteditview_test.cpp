@@ -1,6 +1,7 @@
 #include "platform/guard.h"
 #include "platform/linebreaks.h"
 #include "platform/texteditview.h"
+#include "support/markedtext.h"
 #include "testhelpers.h"
 
 #include <QApplication>
@@ -15,7 +16,7 @@
 #include <vector>
 
 using namespace zt;
-using zt::test::q;
+using namespace zt::test;
 
 namespace {
 
@@ -36,10 +37,8 @@ protected:
     void TearDown() override { Guard::restoreDefaults(); }
 
     // Puts text and caret (or selection) in place from the program's side.
-    void start(const char* text, int selStart, int selLength = 0) {
-        box.setText(q(text));
-        box.setSelStart(selStart);
-        box.setSelLength(selLength);
+    void start(const char* marked) {
+        put(box, q(marked));
         changes = 0;
     }
 
@@ -61,45 +60,41 @@ protected:
 
 TEST_F(TextEditViewTest, EachEditingKeyIsOneReplacement) {
     struct Case {
-        const char* text;
-        int selStart, selLength;
-        const char *keys, *want;
-        int wantCaret, wantChanges;
+        const char *before, *keys, *after;
+        int wantChanges;
     };
     QGuiApplication::clipboard()->setText(QStringLiteral("x\ny"));
     const Case cases[] = {
-        {"", 0, 0, "A, B", "ab", 2, 2},
-        {"ab", 2, 0, "Return", "ab\r\n", 4, 1},
-        {"ab\r\ncd", 4, 0, "Backspace", "abcd", 2, 1}, // the whole CR LF in one change
-        {"ab\r\ncd", 2, 0, "Del", "abcd", 2, 1},
-        {"a\rb", 2, 0, "Backspace", "ab", 1, 1},
-        {"a\nb", 1, 0, "Del", "ab", 1, 1},
-        {"ab\r\ncd", 1, 0, "Shift+Right, Shift+Right, X", "axcd", 2, 1},
-        {"ab\r\ncd", 1, 4, "Return", "a\r\nd", 3, 1},
-        {"abc", 3, 0, "Del", "abc", 3, 0},
-        {"abc", 0, 0, "Backspace", "abc", 0, 0},
-        {"abc", 1, 0, "Tab", "a\tbc", 2, 1},
-        {"abc", 1, 0, "Ctrl+Z", "abc", 1, 0},         // an assignment left nothing to undo
-        {"x", 1, 0, "A, B, Ctrl+Z", "x", 1, 3},       // a typed run is one step
-        {"x", 1, 0, "A, Return, Ctrl+Z", "xa", 2, 3}, // a break is a step of its own
-        {"x", 1, 0, "A, Ctrl+Z, Ctrl+Y", "xa", 2, 3},
-        {"x", 1, 0, "A, Ctrl+Z, Ctrl+Shift+Z", "xa", 2, 3},
-        {"x", 1, 0, "A, Ctrl+Z, B, Ctrl+Y", "xb", 2, 3}, // a new edit drops the redo
-        {"one two", 7, 0, "Ctrl+Backspace, Ctrl+Z", "one two", 7, 2},
-        {"one two", 7, 0, "Ctrl+Backspace", "one ", 4, 1},
-        {"x\r\ny", 5, 0, "Up, Q", "xq\r\ny", 2, 1},
-        {"ab", 1, 0, "Ctrl+V", "ax\r\nyb", 5, 1},
-        {"a1\r\n2b", 1, 4, "Ctrl+X", "ab", 1, 1}, // last: it replaces the clipboard
+        {"|", "A, B", "ab|", 2},
+        {"ab|", "Return", "ab\r\n|", 1},
+        {"ab\r\n|cd", "Backspace", "ab|cd", 1}, // the whole CR LF in one change
+        {"ab|\r\ncd", "Del", "ab|cd", 1},
+        {"a\r|b", "Backspace", "a|b", 1},
+        {"a|\nb", "Del", "a|b", 1},
+        {"a|b\r\ncd", "Shift+Right, Shift+Right, X", "ax|cd", 1},
+        {"a[b\r\nc]d", "Return", "a\r\n|d", 1},
+        {"abc|", "Del", "abc|", 0},
+        {"|abc", "Backspace", "|abc", 0},
+        {"a|bc", "Tab", "a\t|bc", 1},
+        {"a|bc", "Ctrl+Z", "a|bc", 0},         // an assignment left nothing to undo
+        {"x|", "A, B, Ctrl+Z", "x|", 3},       // a typed run is one step
+        {"x|", "A, Return, Ctrl+Z", "xa|", 3}, // a break is a step of its own
+        {"x|", "A, Ctrl+Z, Ctrl+Y", "xa|", 3},
+        {"x|", "A, Ctrl+Z, Ctrl+Shift+Z", "xa|", 3},
+        {"x|", "A, Ctrl+Z, B, Ctrl+Y", "xb|", 3}, // a new edit drops the redo
+        {"one two|", "Ctrl+Backspace, Ctrl+Z", "one two|", 2},
+        {"one two|", "Ctrl+Backspace", "one |", 1},
+        {"x\r\ny|", "Up, Q", "xq|\r\ny", 1},
+        {"a|b", "Ctrl+V", "ax\r\ny|b", 1},
+        {"a[1\r\n2]b", "Ctrl+X", "a|b", 1}, // last: it replaces the clipboard
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(std::string(c.text) + " " + c.keys);
-        start(c.text, c.selStart, c.selLength);
+        SCOPED_TRACE(std::string(c.before) + " " + c.keys);
+        start(c.before);
         QTest::keySequence(&view, QKeySequence(QString::fromLatin1(c.keys)));
-        EXPECT_EQ(box.text(), q(c.want));
-        EXPECT_EQ(box.selStart(), c.wantCaret);
-        EXPECT_EQ(box.selLength(), 0);
+        EXPECT_EQ(shown(box), q(c.after));
         EXPECT_EQ(changes, c.wantChanges);
-        EXPECT_EQ(view.toPlainText(), linebreaks::toDocument(q(c.want)));
+        EXPECT_EQ(view.toPlainText(), linebreaks::toDocument(box.text()));
         if (c.wantChanges > 0) {
             EXPECT_EQ(shownAtChange, view.toPlainText()) << "the editor is up to date at Change";
         }
@@ -108,33 +103,32 @@ TEST_F(TextEditViewTest, EachEditingKeyIsOneReplacement) {
 }
 
 TEST_F(TextEditViewTest, EditorSelectionIsMirroredInModelPositions) {
-    start("ab\r\ncd\r\nef", 0);
-    struct Case {
-        int anchor, position, wantStart, wantLength;
-    };
+    start("|ab\r\ncd\r\nef");
     // The editor shows "ab\ncd\nef".
-    const Case cases[] = {{4, 7, 5, 4}, {7, 4, 5, 4}, {3, 3, 4, 0}, {0, 8, 0, 10}, {2, 3, 2, 2}};
-    for (const Case& c : cases) {
+    const std::tuple<int, int, const char*> cases[] = {{4, 7, "ab\r\nc[d\r\ne]f"},
+                                                       {7, 4, "ab\r\nc[d\r\ne]f"},
+                                                       {3, 3, "ab\r\n|cd\r\nef"},
+                                                       {0, 8, "[ab\r\ncd\r\nef]"},
+                                                       {2, 3, "ab[\r\n]cd\r\nef"}};
+    for (const auto& [anchor, position, want] : cases) {
         QTextCursor cursor = view.textCursor();
-        cursor.setPosition(c.anchor);
-        cursor.setPosition(c.position, QTextCursor::KeepAnchor);
+        cursor.setPosition(anchor);
+        cursor.setPosition(position, QTextCursor::KeepAnchor);
         view.setTextCursor(cursor);
-        EXPECT_EQ(box.selStart(), c.wantStart) << c.anchor << "-" << c.position;
-        EXPECT_EQ(box.selLength(), c.wantLength) << c.anchor << "-" << c.position;
-        EXPECT_EQ(view.textCursor().anchor(), c.anchor) << "the editor keeps its direction";
+        EXPECT_EQ(shown(box), q(want)) << anchor << "-" << position;
+        EXPECT_EQ(view.textCursor().anchor(), anchor) << "the editor keeps its direction";
     }
     // By mouse from behind a to behind c: b, CR, LF and c.
     box.setSelStart(0);
     QTest::mousePress(view.viewport(), Qt::LeftButton, {}, pointAt(1));
     QTest::mouseMove(view.viewport(), pointAt(4));
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, pointAt(4));
-    EXPECT_EQ(box.selStart(), 1);
-    EXPECT_EQ(box.selLength(), 4);
+    EXPECT_EQ(shown(box), q("a[b\r\nc]d\r\nef"));
     EXPECT_EQ(changes, 0);
 }
 
 TEST_F(TextEditViewTest, ProgramAssignmentsShowInTheEditorEvenWhenReadOnly) {
-    start("ab\r\ncd", 4, 2);
+    start("ab\r\n[cd]");
     EXPECT_EQ(view.textCursor().selectionStart(), 3);
     EXPECT_EQ(view.textCursor().selectionEnd(), 5);
 
@@ -144,7 +138,7 @@ TEST_F(TextEditViewTest, ProgramAssignmentsShowInTheEditorEvenWhenReadOnly) {
     EXPECT_EQ(box.selStart(), 3);
 
     // A read-only editor refuses the user's edits but still shows the program's.
-    start("abc", 1);
+    start("a|bc");
     view.setReadOnly(true);
     QGuiApplication::clipboard()->setText(QStringLiteral("z"));
     QTest::keySequence(&view, QKeySequence(QStringLiteral("X, Backspace, Return, Ctrl+V")));
@@ -216,7 +210,7 @@ TEST_F(TextEditViewTest, EditsAnywhereKeepEditorAndControlInStep) {
 }
 
 TEST_F(TextEditViewTest, DroppedAndComposedTextAreOneChangeEach) {
-    start("ab\r\ncd", 0);
+    start("|ab\r\ncd");
     QMimeData data;
     data.setText(QStringLiteral("1\n2"));
     QDragEnterEvent enter(pointAt(4), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -226,25 +220,23 @@ TEST_F(TextEditViewTest, DroppedAndComposedTextAreOneChangeEach) {
     EXPECT_EQ(box.text(), q("ab\r\nc1\r\n2d"));
     EXPECT_EQ(changes, 1);
 
-    start("ab", 1);
+    start("a|b");
     QInputMethodEvent composing(QStringLiteral("e"), {});
     QApplication::sendEvent(&view, &composing);
     EXPECT_EQ(changes, 0) << "text still being composed is not in the box";
     QInputMethodEvent commit;
     commit.setCommitString(QStringLiteral("\u00e9"));
     QApplication::sendEvent(&view, &commit);
-    EXPECT_EQ(box.text(), QStringLiteral("a\u00e9b"));
-    EXPECT_EQ(box.selStart(), 2);
+    EXPECT_EQ(shown(box), QStringLiteral("a\u00e9|b"));
     EXPECT_EQ(changes, 1);
 }
 
 TEST_F(TextEditViewTest, EditorEditedAroundTheControlReturnsToItsText) {
-    start("ab\r\ncd", 2);
+    start("ab|\r\ncd");
     view.insertPlainText(QStringLiteral("zz"));
     QCoreApplication::processEvents();
     EXPECT_EQ(view.toPlainText(), q("ab\ncd"));
-    EXPECT_EQ(box.text(), q("ab\r\ncd"));
-    EXPECT_EQ(box.selStart(), 2);
+    EXPECT_EQ(shown(box), q("ab|\r\ncd"));
     EXPECT_EQ(changes, 0);
     // Typing goes on at the right place afterwards.
     box.setSelStart(4);

@@ -54,13 +54,10 @@ TEST_F(TextLineViewTest, EachKeyIsOneEditOfTheControlAndHandlersRewritingItWin) 
     // Typing over a selection replaces it in one edit.
     QTest::keyClick(&view, Qt::Key_Home);
     QTest::keyClick(&view, Qt::Key_End, Qt::ShiftModifier);
-    EXPECT_EQ(box.selStart(), 0);
-    EXPECT_EQ(box.selLength(), 2);
     QTest::keyClick(&view, Qt::Key_Z);
     EXPECT_EQ(box.text(), "z");
     EXPECT_EQ(changes, 5);
     QTest::keyClick(&view, Qt::Key_X);
-    EXPECT_EQ(box.text(), "");
     EXPECT_EQ(view.text(), "");
     QTest::keyClick(&view, Qt::Key_B);
     EXPECT_EQ(view.text(), "b");

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "support/failureof.h"
+#include "support/markedtext.h"
 
-#include "platform/runtimefailure.h"
 #include "platform/textcontrol.h"
 
 #include <QString>
 
-#include <functional>
 #include <ostream>
 
 // Texts in failure messages as text, not as arrays of characters.
@@ -23,6 +22,10 @@ struct Area {
         control.setText(text);
         control.setSelStart(start);
         control.setSelLength(length);
+        control.addChangeHandler([this] { ++changes; });
+    }
+    explicit Area(const QString& marked) {
+        put(control, marked);
         control.addChangeHandler([this] { ++changes; });
     }
 

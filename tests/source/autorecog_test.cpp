@@ -21,15 +21,6 @@ struct Typing : BuilderViews {
         zelvo.show();
         zelvo.ui.mnuAutoRecog->trigger();
     }
-    // The text with the selection in brackets, or a bar at the caret.
-    QString shown() {
-        QString text = area().text();
-        if (area().selLength() == 0)
-            return text.insert(area().selStart(), '|');
-        return text.insert(area().selStart() + area().selLength(), ']')
-            .insert(area().selStart(), '[');
-    }
-    QString questionTexts() { return asked().join('/'); }
 };
 
 const QString kTen = "0123456789";
@@ -50,7 +41,7 @@ TEST(AutoTagRecognition, CompletionsSelectWhatTheyPutInWithTheirOddities) {
     for (const auto& [typed, after] : cases) {
         Typing v;
         type(v.zelvo.ui.areaView, kTen + typed);
-        EXPECT_EQ(v.shown(), kTen + after) << typed.toStdString();
+        EXPECT_EQ(shown(v.area()), kTen + after) << typed.toStdString();
         EXPECT_EQ(v.program.desktop.beeps, typed.toLower().startsWith("color=\"r") ? 1 : 0)
             << typed.toStdString();
     }
@@ -67,14 +58,14 @@ TEST(AutoTagRecognition, OffersAskOnceForWhatIsTypedAndYesTakesItAwayForTheDialo
 
     v.program.prompts.answers = {vbYes};
     type(v.zelvo.ui.areaView, "<tr");
-    EXPECT_EQ(v.shown(), kTen + "<table|");
+    EXPECT_EQ(shown(v.area()), kTen + "<table|");
     EXPECT_TRUE(v.program.forms->get<frmrow>().isVisible());
 
     v.program.prompts.answers = {vbYes};
     type(v.zelvo.ui.areaView, "<input");
     EXPECT_EQ(QApplication::activePopupWidget(), v.zelvo.ui.mnuForm->menu());
     v.zelvo.ui.mnuForm->menu()->close();
-    EXPECT_EQ(v.shown(), kTen + "<table|");
+    EXPECT_EQ(shown(v.area()), kTen + "<table|");
 
     // Nothing in the first ten characters, and nothing with the item unchecked.
     Typing early;

@@ -1,4 +1,5 @@
 #include "builders/builderkit.h"
+#include "source/areafixture.h"
 #include "source/findme.h"
 
 #include "platform/texteditview.h"
@@ -18,22 +19,6 @@ using namespace zt::test;
 namespace {
 
 const QString kLong(33000, u'x');
-
-// A text with "|" for the caret, or "[" and "]" round the selection.
-void put(TextControl& area, QString text) {
-    const int open = int(text.indexOf(QRegularExpression("[|[]")));
-    text.remove(open, 1);
-    const int close = int(text.indexOf(']'));
-    area.setText(close < 0 ? text : text.remove(close, 1));
-    area.setSelStart(open);
-    area.setSelLength(close < 0 ? 0 : close - open);
-}
-
-QString shown(const TextControl& area) {
-    QString text = area.text();
-    const int start = area.selStart(), end = start + area.selLength();
-    return end == start ? text.insert(start, '|') : text.insert(end, ']').insert(start, '[');
-}
 
 } // namespace
 

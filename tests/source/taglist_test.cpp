@@ -8,7 +8,6 @@
 
 #include "platform/backcolor.h"
 #include "platform/texteditview.h"
-#include "platform/textfiles.h"
 
 #include <QApplication>
 #include <QListWidget>
@@ -56,13 +55,6 @@ struct TagListView : BuilderViews {
 };
 
 } // namespace
-
-// The library was written from the same table as the design list, by hand.
-TEST(TagList, DesignListAndTheHtmlLibraryHoldTheCatalogueByGroup) {
-    TagListView v;
-    EXPECT_EQ(v.lines(),
-              textfiles::readLines(v.program.folder.path("misc/htmlRef.lib")).mid(0, 144));
-}
 
 TEST(TagList, SearchSelectsTheFirstLineThatHoldsTheTextHeadingsIncluded) {
     TagListView v;

@@ -18,35 +18,22 @@ using Command = void (Zelvo::*)();
 } // namespace
 
 TEST(TextTransforms, SurroundsAndInsertionsLeaveTheCaretBehindWithNothingSelected) {
-    struct Case {
-        const char* name;
-        Command command;
-        QString text;
-        int start, length;
-        QString after;
-        int caret;
-    };
-    const Case cases[] = {
-        {"Left", &Zelvo::mnuALeft, "axb", 1, 1, "a<P align=\"left\">x</P>b", 22},
-        {"Center", &Zelvo::mnuACenter, "axb", 1, 1, "a<CENTER>x</CENTER>b", 19},
-        {"Right", &Zelvo::mnuARight, "axb", 1, 1, "a<P align=\"right\">x</P>b", 23},
-        {"Justify", &Zelvo::mnuAJustify, "axb", 1, 1, "a<P align=\"justify\">x</P>b", 25},
-        {"No Break", &Zelvo::mnuNoBreak, "axb", 1, 1, "a<NOBR>x</NOBR>b", 15},
-        {"Line Break", &Zelvo::mnuLineBreak, "axb", 1, 1, "a<BR>b", 5},
-        {"Word Break", &Zelvo::mnuWordBreak, "axb", 1, 1, "a<WBR>b", 6},
+    const std::pair<Command, QString> cases[] = {
+        {&Zelvo::mnuALeft, "a<P align=\"left\">x</P>|b"},
+        {&Zelvo::mnuACenter, "a<CENTER>x</CENTER>|b"},
+        {&Zelvo::mnuARight, "a<P align=\"right\">x</P>|b"},
+        {&Zelvo::mnuAJustify, "a<P align=\"justify\">x</P>|b"},
+        {&Zelvo::mnuNoBreak, "a<NOBR>x</NOBR>|b"},
+        {&Zelvo::mnuLineBreak, "a<BR>|b"},
+        {&Zelvo::mnuWordBreak, "a<WBR>|b"},
         // The caret waits inside the paragraph, in front of its two line breaks.
-        {"Paragraph", &Zelvo::mnuParagraph, "axb", 1, 1, "a<P align=\"left\">\r\n\r\n</P>b", 17},
+        {&Zelvo::mnuParagraph, "a<P align=\"left\">|\r\n\r\n</P>b"},
     };
     Views v;
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        v.area().setText(c.text);
-        v.area().setSelStart(c.start);
-        v.area().setSelLength(c.length);
-        ASSERT_TRUE(v.run([&] { (v.zelvo.*c.command)(); }));
-        EXPECT_EQ(v.area().text(), c.after);
-        EXPECT_EQ(v.area().selStart(), c.caret);
-        EXPECT_EQ(v.area().selLength(), 0);
+    for (const auto& [command, after] : cases) {
+        put(v.area(), "a[x]b");
+        ASSERT_TRUE(v.run([&] { (v.zelvo.*command)(); }));
+        EXPECT_EQ(shown(v.area()), after);
     }
 }
 
@@ -56,32 +43,28 @@ TEST(TextTransforms, CaseAndTabCommandsReplaceTheSelectionInOneChange) {
         QString selected, after;
     };
     const Case cases[] = {
-        {lowerCase, "\u00C0bC <B>", "\u00E0bc <b>"},
-        {upperCase, "\u00E0bc <b>", "\u00C0BC <B>"},
+        {lowerCase, "\u00C0bC <B>", "\u00E0bc <b>|"},
+        {upperCase, "\u00E0bc <b>", "\u00C0BC <B>|"},
         // Inverted Case never visits the last character.
-        {invertedCase, "Hello wORLD", "hELLO WorlD"},
-        {invertedCase, "\u00E9aB", "\u00E9AB"},
-        {invertedCase, "", ""},
+        {invertedCase, "Hello wORLD", "hELLO WorlD|"},
+        {invertedCase, "\u00E9aB", "\u00E9AB|"},
+        {invertedCase, "", "|"},
         // Title Case starts a word only behind a blank.
-        {titleCase, "hello  wORLD", "Hello  World"},
-        {titleCase, "one\r\ntwo\tthree-four five", "One\r\ntwo\tthree-four Five"},
-        {titleCase, " lead", " Lead"},
-        {titleCase, "\u00E9clair a \u00E9lan", "\u00C9clair A \u00E9lan"},
-        {titleCase, "", ""},
+        {titleCase, "hello  wORLD", "Hello  World|"},
+        {titleCase, "one\r\ntwo\tthree-four five", "One\r\ntwo\tthree-four Five|"},
+        {titleCase, " lead", " Lead|"},
+        {titleCase, "\u00E9clair a \u00E9lan", "\u00C9clair A \u00E9lan|"},
+        {titleCase, "", "|"},
         // The tab commands keep the result selected.
-        {tabify, "one\r\ntwo", "\tone\r\n\ttwo"},
-        {tabify, "", "\t"},
-        {untabify, "\t\tone\r\n\t\ttwo", "one\r\ntwo"},
-        {untabify, "\tone\tx\r\n\ttwo\t", "onex\r\ntwo"},
+        {tabify, "one\r\ntwo", "[\tone\r\n\ttwo]"},
+        {tabify, "", "[\t]"},
+        {untabify, "\t\tone\r\n\t\ttwo", "[one\r\ntwo]"},
+        {untabify, "\tone\tx\r\n\ttwo\t", "[onex\r\ntwo]"},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.selected.toStdString());
-        Area a("[" + c.selected + "]", 1, int(c.selected.size()));
+        Area a("<[" + c.selected + "]>");
         c.command(a.control);
-        EXPECT_EQ(a.control.text(), "[" + c.after + "]");
-        const bool kept = c.command == tabify || c.command == untabify;
-        EXPECT_EQ(a.control.selStart(), kept ? 1 : 1 + c.after.size());
-        EXPECT_EQ(a.control.selLength(), kept ? c.after.size() : 0);
+        EXPECT_EQ(shown(a.control), "<" + c.after + ">");
         EXPECT_EQ(a.changes, 1);
     }
 }
@@ -126,31 +109,28 @@ TEST(TextTransforms, TheChangeChainRunsOnlyWhereTheTextIsAssigned) {
     struct Case {
         const char* name;
         Command command;
-        int length;
-        QString star;
+        QString before, star;
         const char* clipboard = nullptr; // the program's clipboard after, where it matters
     };
-    // On "abc def" with the caret at 2. The menus use the program's clipboard.
+    // The menus use the program's clipboard.
     const Case cases[] = {
-        {"Outdent on untagged text", &Zelvo::mnuOutdent, 3, ""},
-        {"Copy", &Zelvo::mnuCopy, 3, "", "c d"},
-        {"Copy, nothing selected", &Zelvo::mnuCopy, 0, "", "c d"},
-        {"Select All", &Zelvo::mnuSelectAll, 0, ""},
+        {"Outdent on untagged text", &Zelvo::mnuOutdent, "ab[c d]ef", ""},
+        {"Copy", &Zelvo::mnuCopy, "ab[c d]ef", "", "c d"},
+        {"Copy, nothing selected", &Zelvo::mnuCopy, "ab|c def", "", "c d"},
+        {"Select All", &Zelvo::mnuSelectAll, "ab|c def", ""},
         // The rest assign SelText, most of them even with nothing selected.
-        {"Lower Case", &Zelvo::mnuLcase, 0, "*"},
-        {"Tabify", &Zelvo::mnuTabify, 0, "*"},
-        {"Paragraph", &Zelvo::mnuParagraph, 0, "*"},
+        {"Lower Case", &Zelvo::mnuLcase, "ab|c def", "*"},
+        {"Tabify", &Zelvo::mnuTabify, "ab|c def", "*"},
+        {"Paragraph", &Zelvo::mnuParagraph, "ab|c def", "*"},
         // The copy is tested, the removal is not: an empty cut still counts as an edit.
-        {"Cut, nothing selected", &Zelvo::mnuCut, 0, "*", "c d"},
-        {"Cut", &Zelvo::mnuCut, 1, "*", "c"},
-        {"Paste", &Zelvo::mnuPaste, 0, "*", "c"},
+        {"Cut, nothing selected", &Zelvo::mnuCut, "ab|c def", "*", "c d"},
+        {"Cut", &Zelvo::mnuCut, "ab[c] def", "*", "c"},
+        {"Paste", &Zelvo::mnuPaste, "ab|c def", "*", "c"},
     };
     Views v;
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        v.area().setText("abc def");
-        v.area().setSelStart(2);
-        v.area().setSelLength(c.length);
+        put(v.area(), c.before);
         v.zelvo.ui.star.setText("");
         ASSERT_TRUE(v.run([&] { (v.zelvo.*c.command)(); }));
         EXPECT_EQ(v.star(), c.star);
@@ -160,8 +140,7 @@ TEST(TextTransforms, TheChangeChainRunsOnlyWhereTheTextIsAssigned) {
     }
     EXPECT_EQ(v.area().text(), "abcc def") << "Paste put in what Cut took";
     v.program.clipboard.setText("");
-    v.area().setSelStart(3);
-    v.area().setSelLength(1);
+    put(v.area(), "abc[c] def");
     v.run([&] { v.zelvo.mnuPaste(); });
     EXPECT_EQ(v.area().text(), "abc def") << "an empty clipboard takes the selection away";
 }

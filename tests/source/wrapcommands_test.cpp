@@ -12,36 +12,33 @@ namespace {
 
 using Command = void (Zelvo::*)();
 
-const QString kDoc = "ab word cd";
-
 struct MemberCase {
-    const char* name;
     Command command;
-    QString wrapped;
-    int wrappedLength, unwrappedLength;
+    QString wrapped, unwrapped = "ab [word] cd";
     Command undo = nullptr; // the command itself when none
 };
 
-// Every member's handler, on "word" selected at 3 in kDoc. The lengths are the ones
-// each command has always left, Big's extra character and Emphasis' short unwrap
+// Every member's handler, on "word" selected in "ab word cd". The selections are the
+// ones each command has always left, Big's extra character and Emphasis' short unwrap
 // included.
 const MemberCase kMembers[] = {
-    {"Bold", &Zelvo::mnubold, "ab <B>word</B> cd", 11, 4},
-    {"Italics", &Zelvo::mnuitalics, "ab <I>word</I> cd", 11, 4},
-    {"Underline", &Zelvo::mnuUnderline, "ab <U>word</U> cd", 11, 4},
-    {"Abbreviation", &Zelvo::mnuAbbreviation, "ab <ABBR>word</ABBR> cd", 17, 4},
-    {"Big", &Zelvo::mnuBig, "ab <BIG>word</BIG> cd", 16, 4},
-    {"Code", &Zelvo::mnuCode, "ab <CODE>word</CODE> cd", 17, 4},
-    {"Emphasis", &Zelvo::mnuEmphasis, "ab <EM>word</EM> cd", 13, 1},
-    {"Keyboard", &Zelvo::mnuKeyboard, "ab <KBD>word</KBD> cd", 15, 4},
-    {"Preformat", &Zelvo::mnuPreformat, "ab <PRE>word</PRE> cd", 15, 4},
-    {"Quote", &Zelvo::mnuQuote, "ab <QUOTE>word</QUOTE> cd", 19, 4},
-    {"Small", &Zelvo::mnuSmall, "ab <SMALL>word</SMALL> cd", 19, 4},
-    {"Strong", &Zelvo::mnuStrong, "ab <STRONG>word</STRONG> cd", 21, 4},
-    {"Subscript", &Zelvo::mnuSubscript, "ab <SUB>word</SUB> cd", 15, 4},
-    {"Superscript", &Zelvo::mnuSuperscript, "ab <SUP>word</SUP> cd", 15, 4},
-    {"Comment", &Zelvo::mnuComment, "ab <!--word--> cd", 11, 4},
-    {"Indent", &Zelvo::mnuIndent, "ab <BLOCKQUOTE>word</BLOCKQUOTE> cd", 29, 4, &Zelvo::mnuOutdent},
+    {&Zelvo::mnubold, "ab [<B>word</B>] cd"},
+    {&Zelvo::mnuitalics, "ab [<I>word</I>] cd"},
+    {&Zelvo::mnuUnderline, "ab [<U>word</U>] cd"},
+    {&Zelvo::mnuAbbreviation, "ab [<ABBR>word</ABBR>] cd"},
+    {&Zelvo::mnuBig, "ab [<BIG>word</BIG> ]cd"},
+    {&Zelvo::mnuCode, "ab [<CODE>word</CODE>] cd"},
+    {&Zelvo::mnuEmphasis, "ab [<EM>word</EM>] cd", "ab [w]ord cd"},
+    {&Zelvo::mnuKeyboard, "ab [<KBD>word</KBD>] cd"},
+    {&Zelvo::mnuPreformat, "ab [<PRE>word</PRE>] cd"},
+    {&Zelvo::mnuQuote, "ab [<QUOTE>word</QUOTE>] cd"},
+    {&Zelvo::mnuSmall, "ab [<SMALL>word</SMALL>] cd"},
+    {&Zelvo::mnuStrong, "ab [<STRONG>word</STRONG>] cd"},
+    {&Zelvo::mnuSubscript, "ab [<SUB>word</SUB>] cd"},
+    {&Zelvo::mnuSuperscript, "ab [<SUP>word</SUP>] cd"},
+    {&Zelvo::mnuComment, "ab [<!--word-->] cd"},
+    {&Zelvo::mnuIndent, "ab [<BLOCKQUOTE>word</BLOCKQUOTE>] cd", "ab [word] cd",
+     &Zelvo::mnuOutdent},
 };
 
 } // namespace
@@ -51,10 +48,9 @@ TEST(WrapCommands, EachMemberWrapsAndUnwrapsWithItsOwnTagsAndLengthsButNeverAnEm
     int changes = 0;
     v.area().addChangeHandler([&] { ++changes; });
     for (const MemberCase& c : kMembers) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(c.wrapped.toStdString());
         const auto undo = [&] { (v.zelvo.*(c.undo ? c.undo : c.command))(); };
-        v.area().setText(kDoc);
-        v.area().setSelStart(3);
+        put(v.area(), "ab |word cd");
         changes = 0;
         // With nothing selected neither way does anything.
         ASSERT_TRUE(v.run([&] { (v.zelvo.*c.command)(); }));
@@ -63,26 +59,20 @@ TEST(WrapCommands, EachMemberWrapsAndUnwrapsWithItsOwnTagsAndLengthsButNeverAnEm
 
         v.area().setSelLength(4);
         ASSERT_TRUE(v.run([&] { (v.zelvo.*c.command)(); }));
-        EXPECT_EQ(v.area().text(), c.wrapped);
-        EXPECT_EQ(v.area().selStart(), 3);
-        EXPECT_EQ(v.area().selLength(), c.wrappedLength);
+        EXPECT_EQ(shown(v.area()), c.wrapped);
         EXPECT_EQ(changes, 1);
 
         // The second time the opening tag is in the lower spelling; the closing tag
         // is found in any case.
         for (const bool lower : {false, true}) {
             if (lower) {
-                const int open = int(c.wrapped.indexOf("word")) - 3;
-                v.area().setText(c.wrapped.left(3) + c.wrapped.mid(3, open).toLower() +
-                                 c.wrapped.mid(3 + open));
-                v.area().setSelStart(3);
-                v.area().setSelLength(c.wrappedLength);
+                const int open = int(c.wrapped.indexOf("word"));
+                put(v.area(),
+                    c.wrapped.left(4) + c.wrapped.mid(4, open - 4).toLower() + c.wrapped.mid(open));
             }
             changes = 0;
             ASSERT_TRUE(v.run(undo));
-            EXPECT_EQ(v.area().text(), kDoc) << lower;
-            EXPECT_EQ(v.area().selStart(), 3) << lower;
-            EXPECT_EQ(v.area().selLength(), c.unwrappedLength) << lower;
+            EXPECT_EQ(shown(v.area()), c.unwrapped) << lower;
             EXPECT_EQ(changes, 2) << "one Change per tag removed";
         }
     }
@@ -94,33 +84,27 @@ TEST(WrapCommands, EachMemberWrapsAndUnwrapsWithItsOwnTagsAndLengthsButNeverAnEm
 TEST(WrapCommands, OnlyTheExactSpellingsCountAndTheClosingTagIsTheFirstBehind) {
     struct Case {
         Wrap which;
-        QString text;
-        int start, length;
-        QString after;
-        int selectedAfter;
+        QString before, after;
     };
     const Case cases[] = {
         // Mixed case and attributes are not recognised: another pair goes round.
-        {Wrap::Abbreviation, ".<Abbr>x</Abbr>", 1, 14, ".<ABBR><Abbr>x</Abbr></ABBR>", 27},
+        {Wrap::Abbreviation, ".[<Abbr>x</Abbr>]", ".[<ABBR><Abbr>x</Abbr></ABBR>]"},
         // Indent never tests: each use adds a pair.
-        {Wrap::Indent, ".<BLOCKQUOTE>x</BLOCKQUOTE>", 1, 26,
-         ".<BLOCKQUOTE><BLOCKQUOTE>x</BLOCKQUOTE></BLOCKQUOTE>", 51},
+        {Wrap::Indent, ".[<BLOCKQUOTE>x</BLOCKQUOTE>]",
+         ".[<BLOCKQUOTE><BLOCKQUOTE>x</BLOCKQUOTE></BLOCKQUOTE>]"},
         // Outdent takes any mixture of case, and always 25 from the length; a blank in
         // front of the tag means nothing to do.
-        {Wrap::Outdent, " <BlockQuote>wordy words</blockQUOTE> T", 1, 36, " wordy words T", 11},
-        {Wrap::Outdent, ". <blockquote>x</blockquote>", 1, 27, ". <blockquote>x</blockquote>", 27},
-        {Wrap::Bold, "<B>one</B> <B>two</B>", 11, 10, "<B>one</B> two", 3},
-        {Wrap::Bold, " <B>a<B>b</B></B>", 1, 16, " a<B>b</B>", 9},
-        {Wrap::Bold, " <B>word and more</B>", 1, 7, " word and more", 0},
-        {Wrap::Bold, "</b> <b>x</b>", 5, 8, "</b> x", 1},
+        {Wrap::Outdent, " [<BlockQuote>wordy words</blockQUOTE>] T", " [wordy words] T"},
+        {Wrap::Outdent, ".[ <blockquote>x</blockquote>]", ".[ <blockquote>x</blockquote>]"},
+        {Wrap::Bold, "<B>one</B> [<B>two</B>]", "<B>one</B> [two]"},
+        {Wrap::Bold, " [<B>a<B>b</B></B>]", " [a<B>b</B>]"},
+        {Wrap::Bold, " [<B>word] and more</B>", " |word and more"},
+        {Wrap::Bold, "</b> [<b>x</b>]", "</b> [x]"},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.text.toStdString());
-        Area a(c.text, c.start, c.length);
+        Area a(c.before);
         runWrap(a.control, c.which);
-        EXPECT_EQ(a.control.text(), c.after);
-        EXPECT_EQ(a.control.selStart(), c.start);
-        EXPECT_EQ(a.control.selLength(), c.selectedAfter);
+        EXPECT_EQ(shown(a.control), c.after);
     }
 }
 
@@ -165,9 +149,7 @@ TEST(WrapCommands, FailuresComeAtTheirStepWithTheTextAsItStoodThen) {
 
 TEST(WrapCommands, AFailureReachesTheGuardAsTheRunTimeFailure) {
     Views v;
-    v.area().setText(" <EM>x</EM> rest");
-    v.area().setSelStart(1);
-    v.area().setSelLength(10);
+    put(v.area(), " [<EM>x</EM>] rest");
     v.zelvo.ui.star.setText("");
     EXPECT_FALSE(v.run([&] { v.zelvo.mnuEmphasis(); }));
     ASSERT_EQ(v.program.failures.size(), 1u);

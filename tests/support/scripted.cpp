@@ -67,14 +67,4 @@ bool ScriptedPickers::printer() {
     return take(printers, "printer");
 }
 
-bool RecordingLauncher::start(const QString& program, const QStringList& arguments) {
-    started.push_back({program, arguments});
-    return true;
-}
-
-bool RecordingLauncher::open(const QString& target) {
-    opened << target;
-    return true;
-}
-
 } // namespace zt::test

@@ -27,13 +27,10 @@ void copyTree(const QString& from, const QString& to) {
 
 TestProgram::TestProgram() : folder(dir.path() + QStringLiteral("/program")) {
     const QString resources = qEnvironmentVariable("ZT_RESOURCES");
-    for (const char* name : {"misc", "tools", "templates", "crash", "HTMLTutor"}) {
-        const QString target = folder.root() + QLatin1Char('/') + QLatin1String(name);
-        if (!resources.isEmpty() &&
-            QDir(resources + QLatin1Char('/') + QLatin1String(name)).exists())
-            copyTree(resources + QLatin1Char('/') + QLatin1String(name), target);
-        else
-            QDir().mkpath(target);
+    for (const QString name : {"misc", "tools", "templates", "crash", "HTMLTutor"}) {
+        QDir().mkpath(folder.root() + '/' + name);
+        if (!resources.isEmpty()) // a folder missing beside the program copies nothing
+            copyTree(resources + '/' + name, folder.root() + '/' + name);
     }
     QDir().mkpath(dir.path() + QStringLiteral("/scratch"));
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
