@@ -33,12 +33,18 @@ public:
         env.insert("XDG_CONFIG_HOME", dir.filePath("config"));
         program.setProcessEnvironment(env);
         program.start(dir.filePath("zelvo-tessara"), {});
-        // Then types into the page of the visual view, which marks the document.
-        return program.waitForStarted() &&
-               xdotool({"search", "--sync", "--name", "Start Up Assistant"}) &&
-               xdotool({"search", "--name", "^Untitled\\(\\)", "windowfocus", "--sync", "type",
-                        "--delay", "50", "typed"}) &&
-               xdotool({"search", "--sync", "--name", "\\(\\*\\)"});
+        if (!program.waitForStarted() ||
+            !xdotool({"search", "--sync", "--name", "Start Up Assistant"}))
+            return false;
+        // Then types into the page of the visual view, which marks the document. On a
+        // busy machine the page may not take keys yet, so it types again until it does.
+        for (int attempt = 0; attempt < 5; ++attempt) {
+            xdotool({"search", "--name", "^Untitled\\(", "windowfocus", "--sync", "type", "--delay",
+                     "50", "typed"});
+            if (xdotool({"sleep", "2", "search", "--name", "\\(\\*\\)"}))
+                return true;
+        }
+        return false;
     }
 
     bool xdotool(const QStringList& args) {
