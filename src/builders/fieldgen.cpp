@@ -37,7 +37,7 @@ QString textboxStyle(const TextboxStyle& s) {
     if (given(s.colour))
         css += QStringLiteral("color:") + s.colour + u';';
     if (given(s.background))
-        css += QStringLiteral("background-color:") + s.background + u';';
+        css += s.backgroundProperty + u':' + s.background + u';';
     css += QStringLiteral("font-family:") + s.font + u';';
     css += QStringLiteral("font-size:") + s.fontSize + u';';
     if (s.bold)
@@ -52,6 +52,7 @@ QString textAreaTag(const TextAreaValues& v) {
     tag += attribute("cols", v.cols);
     tag += attribute("rows", v.rows);
     tag += attribute("tabindex", v.tabIndex);
+    tag += v.style;
     if (v.useStyle) {
         if (given(v.colour))
             tag += QStringLiteral(" style=\"color:") + v.colour + u'"';

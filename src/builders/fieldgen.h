@@ -27,17 +27,19 @@ struct InputValues {
 // readonly="readonly" checked{style}>`.
 QString inputTag(const InputValues& values);
 
-// The style group of the text box dialog.
+// The style group of the text box dialog, and of the designer's text area.
 struct TextboxStyle {
     QString colour = QStringLiteral("none");
     QString background = QStringLiteral("none");
+    // The designer's text area writes the short property `background:`.
+    QString backgroundProperty = QStringLiteral("background-color");
     QString font{};
     QString fontSize{};
     bool bold = false;
     bool italic = false;
 };
 
-// `style="color:..;background-color:..;font-family:..;font-size:..;font-weight:bold;
+// `style="color:..;{backgroundProperty}:..;font-family:..;font-size:..;font-weight:bold;
 // font-style:italic;"`: a colour of "none" is left out, the font and its size never.
 QString textboxStyle(const TextboxStyle& style);
 
@@ -52,6 +54,10 @@ struct TextAreaValues {
     QString background = QStringLiteral("none");
     bool border = false;
     QString font{};
+    // The designer's whole `style="..."` attribute, or nothing; like the text box's it
+    // follows the attribute before it without a blank, and it stands for all of the
+    // style properties above.
+    QString style{};
     // For the console: ` >` ends the opening tag, so that event handlers can go in
     // before it.
     bool forConsole = false;

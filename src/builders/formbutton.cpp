@@ -11,25 +11,27 @@
 namespace zt {
 
 formButton::formButton(FormRegistry& forms)
-    : ElementDialog(forms, {.name = "formButton",
-                            .caption = QStringLiteral("Insert Button : Zelvo"),
-                            .helpPage = QStringLiteral("button.zhp"),
-                            .shape = Dispatch::ThreeWay}) {
+    : formButton(forms, {.setup = {.name = "formButton",
+                                   .caption = QStringLiteral("Insert Button : Zelvo"),
+                                   .helpPage = QStringLiteral("button.zhp"),
+                                   .shape = Dispatch::ThreeWay}}) {}
+
+formButton::formButton(FormRegistry& forms, const FieldVariant& variant)
+    : ElementDialog(forms, variant.setup) {
     // Enter in any of the fields presses Insert, the dialog's default button.
-    build(ui.compOrEdit,
-          {
-              // control, caption, default, place, limits
-              {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
-              {text("txtValue", ui.txtValue, ui.txtValueView), "&Value (caption):"},
-              {text("txtTab", ui.txtTab, ui.txtTabView), "&Tab Index:", "", Place::Row, numeric()},
-              {group("grpType"), "Type", "", Place::Line},
-              {option("radButton", ui.radButton), "&Button", "", Place::InGroup},
-              {option("radSubmit", ui.radSubmit), "&Submit", "", Place::InGroup},
-              {option("radReset", ui.radReset), "&Reset", "", Place::InGroup},
-              {button("btnInsert", ui.btnInsert), "Insert", "", Place::Accept},
-              {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-              {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
-          });
+    Controls rows{
+        // control, caption, default, place, limits
+        {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
+        {text("txtValue", ui.txtValue, ui.txtValueView), "&Value (caption):"},
+        {text("txtTab", ui.txtTab, ui.txtTabView), "&Tab Index:", "", Place::Row,
+         variant.checksNumbers ? numeric() : nullptr},
+        {group("grpType"), "Type", "", Place::Line},
+        {option("radButton", ui.radButton), "&Button", "", Place::InGroup},
+        {option("radSubmit", ui.radSubmit), "&Submit", "", Place::InGroup},
+        {option("radReset", ui.radReset), "&Reset", "", Place::InGroup},
+    };
+    addFoot(rows, variant, ui.btnInsert, ui.CancelButton, ui.btnHelp);
+    build(ui.compOrEdit, rows);
 }
 
 formButton::~formButton() = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "elementdialog.h"
+#include "fieldparts.h"
 
 #include "platform/textcontrol.h"
 
@@ -37,6 +38,9 @@ public:
     } ui;
 
 protected:
+    // The same field for the form designer's strip.
+    formButton(FormRegistry& forms, const FieldVariant& variant);
+
     QString fragment() override;
 };
 

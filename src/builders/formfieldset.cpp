@@ -1,6 +1,7 @@
 #include "formfieldset.h"
 
 #include "fieldgen.h"
+#include "fieldparts.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -8,18 +9,19 @@
 namespace zt {
 
 formFieldset::formFieldset(FormRegistry& forms)
-    : ElementDialog(forms, {.name = "formFieldset",
-                            .caption = QStringLiteral("Fieldset : Zelvo"),
-                            .helpPage = QStringLiteral("fieldset.zhp")}) {
-    build(ui.compOrEdit,
-          {
-              // control, caption, default, place
-              {text("txtCaption", ui.txtCaption, ui.txtCaptionView), "&Caption:"},
-              {list("listAlign", ui.listAlign, {"Left", "Right"}), "Caption &Alignment:", "Left"},
-              {button("btnInsert", ui.btnInsert), "Insert", "", Place::Accept},
-              {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-              {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
-          });
+    : formFieldset(forms, {.setup = {.name = "formFieldset",
+                                     .caption = QStringLiteral("Fieldset : Zelvo"),
+                                     .helpPage = QStringLiteral("fieldset.zhp")}}) {}
+
+formFieldset::formFieldset(FormRegistry& forms, const FieldVariant& variant)
+    : ElementDialog(forms, variant.setup) {
+    Controls rows{
+        // control, caption, default, place
+        {text("txtCaption", ui.txtCaption, ui.txtCaptionView), "&Caption:"},
+        {list("listAlign", ui.listAlign, {"Left", "Right"}), "Caption &Alignment:", "Left"},
+    };
+    addFoot(rows, variant, ui.btnInsert, ui.CancelButton, ui.btnHelp);
+    build(ui.compOrEdit, rows);
     txtCaption_Change();
     ui.txtCaption.addChangeHandler([this] { txtCaption_Change(); });
 }

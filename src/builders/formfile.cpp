@@ -10,21 +10,23 @@
 namespace zt {
 
 formFile::formFile(FormRegistry& forms)
-    : ElementDialog(forms, {.name = "formFile",
-                            .caption = QStringLiteral("File Upload : Zelvo"),
-                            .helpPage = QStringLiteral("fileUpload.zhp"),
-                            .shape = Dispatch::ThreeWay}) {
-    build(ui.compOrEdit,
-          {
-              // control, caption, default, place, limits
-              {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
-              {text("txtDefault", ui.txtDefault, ui.txtDefaultView), "&Default Value:"},
-              {text("txtSize", ui.txtSize, ui.txtSizeView), "&Size:"},
-              {text("txtTab", ui.txtTab, ui.txtTabView), "&Tab Index:", "", Place::Row, numeric()},
-              {button("btnInsert", ui.btnInsert), "Insert", "", Place::Accept},
-              {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-              {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
-          });
+    : formFile(forms, {.setup = {.name = "formFile",
+                                 .caption = QStringLiteral("File Upload : Zelvo"),
+                                 .helpPage = QStringLiteral("fileUpload.zhp"),
+                                 .shape = Dispatch::ThreeWay}}) {}
+
+formFile::formFile(FormRegistry& forms, const FieldVariant& variant)
+    : ElementDialog(forms, variant.setup) {
+    Controls rows{
+        // control, caption, default, place, limits
+        {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
+        {text("txtDefault", ui.txtDefault, ui.txtDefaultView), "&Default Value:"},
+        {text("txtSize", ui.txtSize, ui.txtSizeView), "&Size:"},
+        {text("txtTab", ui.txtTab, ui.txtTabView), "&Tab Index:", "", Place::Row,
+         variant.checksNumbers ? numeric() : nullptr},
+    };
+    addFoot(rows, variant, ui.btnInsert, ui.CancelButton, ui.btnHelp);
+    build(ui.compOrEdit, rows);
 }
 
 formFile::~formFile() = default;

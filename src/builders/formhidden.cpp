@@ -1,6 +1,7 @@
 #include "formhidden.h"
 
 #include "fieldgen.h"
+#include "fieldparts.h"
 
 #include "platform/services.h"
 #include "platform/textlineview.h"
@@ -10,18 +11,20 @@
 namespace zt {
 
 formHidden::formHidden(FormRegistry& forms)
-    : ElementDialog(forms, {.name = "formHidden",
-                            .caption = QStringLiteral("Insert Hidden Element : Zelvo"),
-                            .helpPage = QStringLiteral("hidden.zhp"),
-                            .shape = Dispatch::CompFirst}) {
-    build(ui.compOrEdit, {
-                             // control, caption, default, place
-                             {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
-                             {text("txtValue", ui.txtValue, ui.txtValueView), "&Value:"},
-                             {button("btnInsert", ui.btnInsert), "Insert", "", Place::Accept},
-                             {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-                             {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
-                         });
+    : formHidden(forms, {.setup = {.name = "formHidden",
+                                   .caption = QStringLiteral("Insert Hidden Element : Zelvo"),
+                                   .helpPage = QStringLiteral("hidden.zhp"),
+                                   .shape = Dispatch::CompFirst}}) {}
+
+formHidden::formHidden(FormRegistry& forms, const FieldVariant& variant)
+    : ElementDialog(forms, variant.setup) {
+    Controls rows{
+        // control, caption, default, place
+        {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
+        {text("txtValue", ui.txtValue, ui.txtValueView), "&Value:"},
+    };
+    addFoot(rows, variant, ui.btnInsert, ui.CancelButton, ui.btnHelp);
+    build(ui.compOrEdit, rows);
 }
 
 formHidden::~formHidden() = default;

@@ -9,8 +9,8 @@
 namespace zt {
 
 Controls selectDialog(SelectControls& ui, const std::function<void(TextControl&)>& numeric,
-                      PointList& points, const Control& accept) {
-    return {
+                      PointList& points, const Control& accept, bool cancelAndHelp) {
+    Controls rows{
         // control, caption, default, place, limits, warning when empty
         {text("txtName", ui.txtName, ui.txtNameView),
          "&Name:",
@@ -25,9 +25,12 @@ Controls selectDialog(SelectControls& ui, const std::function<void(TextControl&)
         {option("radNo", ui.radNo), "N&o", "1", Place::InGroup},
         {points.editor(), "", "", Place::Line},
         accept,
-        {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-        {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
     };
+    if (cancelAndHelp) {
+        rows.push_back({button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel});
+        rows.push_back({button("btnHelp", ui.btnHelp), "Help", "", Place::Help});
+    }
+    return rows;
 }
 
 SelectValues selectValues(const SelectControls& ui) {

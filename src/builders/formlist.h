@@ -29,9 +29,9 @@ struct SelectControls {
 };
 
 // The table of such a dialog: these fields, the name required, then the points and
-// the foot buttons, accept being the dialog's own.
+// the foot buttons, accept being the dialog's own; Cancel and Help where it has them.
 Controls selectDialog(SelectControls& ui, const std::function<void(TextControl&)>& numeric,
-                      PointList& points, const Control& accept);
+                      PointList& points, const Control& accept, bool cancelAndHelp = true);
 SelectValues selectValues(const SelectControls& ui);
 
 // List: a drop-down or scrolling selection list of the points entered, for the

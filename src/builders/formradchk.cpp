@@ -30,23 +30,24 @@ const char16_t kHelp[] =
 } // namespace
 
 formRadChk::formRadChk(FormRegistry& forms)
-    : ElementDialog(forms, {.name = "formRadChk",
-                            .caption = QStringLiteral("Insert Option Buttons : Zelvo"),
-                            .shape = Dispatch::ThreeWay}) {
-    build(ui.compOrEdit,
-          {
-              // control, caption, default, place
-              {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
-              {text("txtValue", ui.txtValue, ui.txtValueView), "&Value:"},
-              {text("txtTab", ui.txtTab, ui.txtTabView), "&Tab Index:"},
-              {group("grpType"), "Type", "", Place::Line},
-              {option("radRadio", ui.radRadio), "&Radio Button", "", Place::InGroup},
-              {option("radCheckbox", ui.radCheckbox), "Check &Box", "1", Place::InGroup},
-              {check("chkChecked", ui.chkChecked), "&Checked by default", "", Place::Line},
-              {button("btnInsert", ui.btnInsert), "Insert", "", Place::Accept},
-              {button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel},
-              {button("btnHelp", ui.btnHelp), "Help", "", Place::Help},
-          });
+    : formRadChk(forms, {.setup = {.name = "formRadChk",
+                                   .caption = QStringLiteral("Insert Option Buttons : Zelvo"),
+                                   .shape = Dispatch::ThreeWay}}) {}
+
+formRadChk::formRadChk(FormRegistry& forms, const FieldVariant& variant)
+    : ElementDialog(forms, variant.setup) {
+    Controls rows{
+        // control, caption, default, place
+        {text("txtName", ui.txtName, ui.txtNameView), "&Name:"},
+        {text("txtValue", ui.txtValue, ui.txtValueView), "&Value:"},
+        {text("txtTab", ui.txtTab, ui.txtTabView), "&Tab Index:"},
+        {group("grpType"), "Type", "", Place::Line},
+        {option("radRadio", ui.radRadio), "&Radio Button", "", Place::InGroup},
+        {option("radCheckbox", ui.radCheckbox), "Check &Box", "1", Place::InGroup},
+        {check("chkChecked", ui.chkChecked), "&Checked by default", "", Place::Line},
+    };
+    addFoot(rows, variant, ui.btnInsert, ui.CancelButton, ui.btnHelp);
+    build(ui.compOrEdit, rows);
     ui.txtHelp.setText(QString::fromUtf16(kHelp));
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "elementdialog.h"
+#include "fieldparts.h"
 
 #include "platform/commondialog.h"
 #include "platform/textcontrol.h"
@@ -27,12 +28,8 @@ public:
     void load() override;
     void accept() override;
 
-    void chkUseStyle_Click();
-    void btnColour_Click();
-    void btnBGColour_Click();
-
-    struct Ui {
-        explicit Ui(Pickers& pickers) : comdlg(pickers) {}
+    struct Ui : StylePanel {
+        explicit Ui(Pickers& pickers) : StylePanel(pickers) {}
 
         TextControl compOrEdit;
         TextControl txtName;
@@ -48,22 +45,15 @@ public:
         QRadioButton* radYes = nullptr;
         QRadioButton* radNo = nullptr;
         QCheckBox* chkReadOnly = nullptr;
-        QCheckBox* chkUseStyle = nullptr;
-        QComboBox* cmbcolour = nullptr;
-        QPushButton* btnColour = nullptr;
-        QComboBox* cmbbgcolour = nullptr;
-        QPushButton* btnBGColour = nullptr;
-        QComboBox* listFont = nullptr;
-        QComboBox* cmbFontSize = nullptr;
-        QCheckBox* chkBold = nullptr;
-        QCheckBox* chkItalics = nullptr;
         QPushButton* btnInsert = nullptr;
         QPushButton* CancelButton = nullptr;
         QPushButton* btnHelp = nullptr;
-        CommonDialog comdlg;
     } ui;
 
 protected:
+    // The same field for the form designer's strip.
+    formTextbox(FormRegistry& forms, const FieldVariant& variant);
+
     QString fragment() override;
 };
 

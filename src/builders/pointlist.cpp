@@ -4,6 +4,7 @@
 #include "platform/guard.h"
 #include "platform/prompts.h"
 #include "platform/services.h"
+#include "platform/texteditview.h"
 #include "platform/textlineview.h"
 
 #include <QGridLayout>
@@ -79,15 +80,24 @@ QWidget* PointList::make(QWidget* parent) {
     grid->setContentsMargins(0, 0, 0, 0);
     const int buttonColumn = m_rules.linked ? 2 : 1;
 
-    m_ui.txtPointsView = new TextLineView(m_ui.txtPoints, editor);
-    m_ui.txtPointsView->setObjectName(QStringLiteral("txtPoints"));
+    QWidget* box = nullptr;
+    if (m_rules.multiLinePoints) {
+        box = m_ui.txtPointsEdit = new TextEditView(m_ui.txtPoints, editor);
+        m_ui.txtPointsEdit->setTabChangesFocus(true);
+        m_ui.txtPointsEdit->setFixedHeight(m_ui.txtPointsEdit->fontMetrics().lineSpacing() * 3);
+        m_ui.txtPoints.addChangeHandler([this] { txtPoints_Change(); });
+    } else {
+        box = m_ui.txtPointsView = new TextLineView(m_ui.txtPoints, editor);
+        new EnterAdds(box, [this] { btnAdd_Click(); });
+    }
+    box->setObjectName(QStringLiteral("txtPoints"));
     auto* pointLabel = new QLabel(QStringLiteral("&Point:"), editor);
-    pointLabel->setBuddy(m_ui.txtPointsView);
+    pointLabel->setBuddy(box);
     auto* point = new QHBoxLayout;
     point->addWidget(pointLabel);
-    point->addWidget(m_ui.txtPointsView, 1);
+    point->addWidget(box, 1);
     grid->addLayout(point, 0, 0, 1, buttonColumn);
-    m_ui.btnAdd = makeButton(editor, "btnAdd", QStringLiteral("&Add"));
+    m_ui.btnAdd = makeButton(editor, "btnAdd", m_rules.addCaption);
     grid->addWidget(m_ui.btnAdd, 0, buttonColumn);
 
     m_ui.listPoints = newList(editor, "listPoints");
@@ -115,6 +125,10 @@ QWidget* PointList::make(QWidget* parent) {
     }
     buttons->addStretch(1);
     grid->addLayout(buttons, 2, buttonColumn);
+    if (m_rules.movesThroughCorrection) {
+        m_ui.correction = newList(editor, "correction");
+        m_ui.correction->hide();
+    }
     // The editing buttons never take Enter from the point's box or the dialog.
     for (QPushButton* button :
          {m_ui.btnAdd, m_ui.btnRemove, m_ui.btnUp, m_ui.btnDown, m_ui.btnClear})
@@ -125,8 +139,22 @@ QWidget* PointList::make(QWidget* parent) {
     onClick(m_ui.btnUp, [this] { btnUp_Click(); });
     onClick(m_ui.btnDown, [this] { btnDown_Click(); });
     onClick(m_ui.btnClear, [this] { btnClear_Click(); });
-    new EnterAdds(m_ui.txtPointsView, [this] { btnAdd_Click(); });
     return editor;
+}
+
+QWidget* PointList::pointBox() const {
+    return m_ui.txtPointsEdit ? static_cast<QWidget*>(m_ui.txtPointsEdit) : m_ui.txtPointsView;
+}
+
+// A line break just before the caret ends the point: what stands before the last two
+// characters becomes a row.
+void PointList::txtPoints_Change() {
+    const QString& text = m_ui.txtPoints.text();
+    const int caret = m_ui.txtPoints.selStart();
+    if (caret < 2 || QStringView(text).mid(caret - 2, 2) != u"\r\n")
+        return;
+    m_ui.listPoints->addItem(text.left(text.size() - 2));
+    m_ui.txtPoints.setText(QString());
 }
 
 QList<QListWidget*> PointList::lists() const {
@@ -162,7 +190,7 @@ void PointList::btnAdd_Click() {
             prompts.msgBox(QStringLiteral("Valid URL was not entered"), vbExclamation, kAssistant);
         }
         m_ui.txtPoints.setText(QString());
-        m_ui.txtPointsView->setFocus();
+        pointBox()->setFocus();
     });
 }
 
@@ -183,11 +211,33 @@ void PointList::btnRemove_Click() {
 }
 
 void PointList::btnUp_Click() {
+    if (m_rules.movesThroughCorrection)
+        return moveThroughCorrection(-1);
     around([this] { move(-1); });
 }
 
 void PointList::btnDown_Click() {
+    if (m_rules.movesThroughCorrection)
+        return moveThroughCorrection(1);
     around([this] { move(1); });
+}
+
+// The rows before the pair, the pair swapped, then the rest. The moved row stays
+// selected, so that it can be moved on.
+void PointList::moveThroughCorrection(int step) {
+    const int row = selectedRow(m_ui.listPoints);
+    const int to = row + step;
+    if (row < 0 || to < 0 || to >= m_ui.listPoints->count())
+        return;
+    m_form.hide();
+    QStringList rows = rowsOf(m_ui.listPoints);
+    rows.swapItemsAt(row, to);
+    m_ui.correction->clear();
+    m_ui.correction->addItems(rows);
+    m_ui.listPoints->clear();
+    m_ui.listPoints->addItems(rowsOf(m_ui.correction));
+    m_ui.listPoints->setCurrentRow(to);
+    m_form.show();
 }
 
 // The row is copied to its new place and the old one removed. The first row does
@@ -215,7 +265,7 @@ void PointList::btnClear_Click() {
         for (QListWidget* list : lists())
             list->clear();
         if (m_rules.clearFocusesPoints)
-            m_ui.txtPointsView->setFocus();
+            pointBox()->setFocus();
     });
 }
 

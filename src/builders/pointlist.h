@@ -11,6 +11,7 @@ class QPushButton;
 namespace zt {
 
 class Form;
+class TextEditView;
 class TextLineView;
 
 // The controls of a list that the user builds point by point: the point being
@@ -19,6 +20,8 @@ class TextLineView;
 struct PointControls {
     TextControl txtPoints;
     TextLineView* txtPointsView = nullptr;
+    // The point's box where it takes several lines.
+    TextEditView* txtPointsEdit = nullptr;
     QPushButton* btnAdd = nullptr;
     QListWidget* listPoints = nullptr;
     // The linked list's address of each point, row for row with listPoints.
@@ -27,12 +30,22 @@ struct PointControls {
     QPushButton* btnUp = nullptr;
     QPushButton* btnDown = nullptr;
     QPushButton* btnClear = nullptr;
+    // Never on screen: the rows in their new order while a move rebuilds the list.
+    QListWidget* correction = nullptr;
 };
 
 // How one dialog's point list differs from the others'.
 struct PointRules {
     // The caption above the list of points.
     QString pointsCaption;
+    QString addCaption = QStringLiteral("&Add");
+    // The point's box takes several lines, and a line break typed at its end adds the
+    // point: Enter adds it there too, as the one line it is.
+    bool multiLinePoints = false;
+    // Up and Down, when the row can move, hide the dialog, write the rows in their
+    // new order into the hidden list `correction`, refill the points from it and show
+    // the dialog again.
+    bool movesThroughCorrection = false;
     // Each point links to an address that Add asks for, kept in listURL.
     bool linked = false;
     // Each button hides the dialog while it works and shows it again at the end.
@@ -59,6 +72,7 @@ public:
     void btnUp_Click();
     void btnDown_Click();
     void btnClear_Click();
+    void txtPoints_Change();
 
     QStringList points() const;
     QStringList urls() const;
@@ -69,6 +83,10 @@ private:
     QList<QListWidget*> lists() const;
     // Moves the selected row by step, on every list, and selects it there.
     void move(int step);
+    // The same move by way of the hidden list `correction`.
+    void moveThroughCorrection(int step);
+    // The box the point is typed into.
+    QWidget* pointBox() const;
     // Runs an edit, with the dialog out of sight while it works where the rules say.
     template <class Edit> void around(Edit edit);
 

@@ -1,5 +1,6 @@
 #include "protocol.h"
 
+#include "designer/morvane.h"
 #include "pagehelpers/jsconsole.h"
 #include "shell/tessara.h"
 #include "shell/zelvo.h"
@@ -26,6 +27,8 @@ Target targetOf(Dispatch shape, const QString& callerMode) {
         return Target::Source;
     case Dispatch::VisualOnly:
         return Target::Visual;
+    case Dispatch::DesignerStrip:
+        return Target::DesignerStrip;
     }
     return Target::Nowhere;
 }
@@ -41,6 +44,9 @@ void deliverTo(FormRegistry& forms, Target target, const QString& fragment,
         break;
     case Target::Console:
         forms.get<JSConsole>().takeFragment(fragment, landing);
+        break;
+    case Target::DesignerStrip:
+        forms.get<morvane>().ui.tagbar->setDocumentHTML(fragment);
         break;
     case Target::Nowhere:
         break;

@@ -34,9 +34,12 @@ enum class Dispatch {
     ThreeWay,      // each of "edit", "comp", "jsc"; any other value delivers nothing
     SourceOnly,    // no test: always the source view
     VisualOnly,    // no test: always the visual view
+    // No test: the form designer's strip, whose whole document the fragment becomes,
+    // for the user to drag into the work area.
+    DesignerStrip,
 };
 
-enum class Target { Source, Visual, Console, Nowhere };
+enum class Target { Source, Visual, Console, DesignerStrip, Nowhere };
 
 Target targetOf(Dispatch shape, const QString& callerMode);
 
@@ -52,6 +55,7 @@ enum class ConsoleLanding {
 // Source: `area.SelText` = fragment, replacing the selection of this moment.
 // Visual: Tessara's VisualInsert, completed by its timer after the dialog is gone.
 // Console: into `theCode` as landing says.
+// DesignerStrip: `morvane.tagbar.DocumentHTML` = fragment, replacing the field before.
 void deliverTo(FormRegistry& forms, Target target, const QString& fragment,
                ConsoleLanding landing = ConsoleLanding::OpenTag);
 

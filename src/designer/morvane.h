@@ -50,8 +50,7 @@ public:
     void mnuFont();
     void mnuBoxBorder();
     void mnuBoxBGColour();
-    // Insert menu. The field dialogs' openers are in morvane_pending.cpp until those
-    // dialogs exist.
+    // Insert menu. The field dialogs' openers are in openers.cpp.
     void mnuLabel();
     void mnuTextBox();
     void mnuButton();

@@ -4,8 +4,17 @@
 
 #include "platform/engine/memoryengine.h"
 
+#include "platform/texteditview.h"
+#include "platform/textlineview.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QListWidget>
+
+#include <gtest/gtest.h>
 
 namespace zt::test {
 
@@ -50,6 +59,34 @@ inline void press(QWidget* widget, Qt::Key key, const QString& text = {}) {
 inline void type(QWidget* widget, const QString& text) {
     for (const QChar c : text)
         press(widget, Qt::Key(c.toUpper().unicode()), QString(c));
+}
+
+// The shown window of that object name or caption, or null.
+inline QWidget* shown(const QString& name) {
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (top->isVisible() && (top->objectName() == name || top->windowTitle() == name))
+            return top;
+    return nullptr;
+}
+
+// Fills in a dialog's window: "name=text" types into a text box or a combo, or picks
+// a list's row by number; a bare name clicks that box or button.
+inline void fillIn(QWidget* window, const QStringList& entries) {
+    for (const QString& entry : entries) {
+        const QString name = entry.section('=', 0, 0), value = entry.section('=', 1);
+        QWidget* w = window->findChild<QWidget*>(name);
+        ASSERT_TRUE(w) << name.toStdString();
+        if (auto* line = qobject_cast<TextLineView*>(w))
+            line->control().setText(value);
+        else if (auto* memo = qobject_cast<TextEditView*>(w))
+            memo->control().setText(value);
+        else if (auto* combo = qobject_cast<QComboBox*>(w))
+            combo->setCurrentText(value);
+        else if (auto* list = qobject_cast<QListWidget*>(w))
+            list->setCurrentRow(value.toInt());
+        else
+            static_cast<QAbstractButton*>(w)->click();
+    }
 }
 
 } // namespace zt::test

@@ -68,34 +68,6 @@ TEST(FieldGenerators, TagsKeepTheirQuirks) {
               "<TEXTAREA name=\"a\"b\">\r\n\r\n</TEXTAREA>");
 }
 
-// The shown window of that object name or caption, or null.
-QWidget* shown(const QString& name) {
-    for (QWidget* top : QApplication::topLevelWidgets())
-        if (top->isVisible() && (top->objectName() == name || top->windowTitle() == name))
-            return top;
-    return nullptr;
-}
-
-// Fills in a dialog's window: "name=text" types into a text box or a combo, or picks
-// a list's row by number; a bare name clicks that box or button.
-void fillIn(QWidget* window, const QStringList& entries) {
-    for (const QString& entry : entries) {
-        const QString name = entry.section('=', 0, 0), value = entry.section('=', 1);
-        QWidget* w = window->findChild<QWidget*>(name);
-        ASSERT_TRUE(w) << name.toStdString();
-        if (auto* line = qobject_cast<TextLineView*>(w))
-            line->control().setText(value);
-        else if (auto* memo = qobject_cast<TextEditView*>(w))
-            memo->control().setText(value);
-        else if (auto* combo = qobject_cast<QComboBox*>(w))
-            combo->setCurrentText(value);
-        else if (auto* list = qobject_cast<QListWidget*>(w))
-            list->setCurrentRow(value.toInt());
-        else
-            static_cast<QAbstractButton*>(w)->click();
-    }
-}
-
 // Each dialog by its menu item from each view: the caption, the help page, the
 // fragment in the source text at the selection or in the page after the tick, and
 // the dialog gone. The source is "one two three" with "two" selected, and so is the
