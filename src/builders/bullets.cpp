@@ -15,7 +15,8 @@ bullets::bullets(FormRegistry& forms)
     : ElementDialog(forms, {.name = "bullets",
                             .caption = QStringLiteral("Bullets And Numbering : Zelvo"),
                             .helpPage = QStringLiteral("bulnum.zhp"),
-                            .shape = Dispatch::SourceOnly}),
+                            .shape = Dispatch::SourceOnly,
+                            .hidesFirst = true}),
       pointList(*this, ui, {.pointsCaption = QStringLiteral("P&oints:")}) {
     build(ui.compOrEdit, {
                              // control, caption, default, place, limits
@@ -81,12 +82,6 @@ void bullets::radNum_Click() {
     ui.listTypeBul->setEnabled(false);
     ui.listTypeNum->setEnabled(true);
     ui.txtStartView->setEnabled(true);
-}
-
-void bullets::accept() {
-    hide();
-    deliver(fragment());
-    unload();
 }
 
 // Only the style box is read: the two small lists serve the look of the dialog.

@@ -24,8 +24,6 @@ public:
     void radBul_Click();
     // Numbering on: the reverse.
     void radNum_Click();
-    // Insert: the dialog goes out of sight first.
-    void accept() override;
 
     struct Ui : PointControls {
         TextControl compOrEdit;

@@ -61,6 +61,8 @@ std::function<void(TextControl&)> ElementDialog::numeric() {
 void ElementDialog::accept() {
     if (warnedOfMissing())
         return;
+    if (m_setup.hidesFirst)
+        hide();
     deliver(fragment());
     keepSettings();
     unload();

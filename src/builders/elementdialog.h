@@ -38,6 +38,9 @@ public:
         // Whether the load keeps the window above all others, as nearly every
         // dialog's does.
         bool floats = true;
+        // Whether accept hides the window before it delivers, once the required
+        // fields are there.
+        bool hidesFirst = false;
     };
 
     ~ElementDialog() override;
@@ -46,8 +49,8 @@ public:
     void load() override;
 
     // The accept button: a required field left empty is warned of and keeps the
-    // dialog open; otherwise the fragment goes where the caller says, the settings
-    // are kept and the dialog unloads.
+    // dialog open; otherwise the dialog hides if its setup says so, the fragment goes
+    // where the caller says, the settings are kept and the dialog unloads.
     virtual void accept();
     // The cancel button, Esc, and the frame's close: the dialog unloads.
     void cancel();

@@ -43,7 +43,8 @@ SelectValues selectValues(const SelectControls& ui) {
 formList::formList(FormRegistry& forms)
     : ElementDialog(forms, {.name = "formList",
                             .caption = QStringLiteral("List : Zelvo"),
-                            .helpPage = QStringLiteral("list.zhp")}),
+                            .helpPage = QStringLiteral("list.zhp"),
+                            .hidesFirst = true}),
       pointList(*this, ui,
                 {.pointsCaption = QStringLiteral("Opt&ions:"),
                  .clearAsks = vbYesNo | vbQuestion | vbDefaultButton2}) {
@@ -52,14 +53,6 @@ formList::formList(FormRegistry& forms)
 }
 
 formList::~formList() = default;
-
-void formList::accept() {
-    if (warnedOfMissing())
-        return;
-    hide();
-    deliver(fragment());
-    unload();
-}
 
 QString formList::fragment() {
     return selectList(selectValues(ui), pointList.points());

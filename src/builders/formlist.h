@@ -41,9 +41,6 @@ public:
     explicit formList(FormRegistry& forms);
     ~formList() override;
 
-    // OK: the name is tested while the dialog is still in sight.
-    void accept() override;
-
     struct Ui : SelectControls, PointControls {
         TextControl compOrEdit;
         QPushButton* OKButton = nullptr;

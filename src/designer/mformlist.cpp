@@ -8,7 +8,12 @@
 namespace zt {
 
 MformList::MformList(FormRegistry& forms)
-    : ElementDialog(forms, designerField("MformList", QStringLiteral("List")).setup),
+    : ElementDialog(forms,
+                    [] {
+                        Setup setup = designerField("MformList", QStringLiteral("List")).setup;
+                        setup.hidesFirst = true;
+                        return setup;
+                    }()),
       pointList(*this, ui,
                 {.pointsCaption = QStringLiteral("Opt&ions:"),
                  .addCaption = QStringLiteral("&Add Point"),
@@ -21,14 +26,6 @@ MformList::MformList(FormRegistry& forms)
 }
 
 MformList::~MformList() = default;
-
-void MformList::accept() {
-    if (warnedOfMissing())
-        return;
-    hide();
-    deliver(fragment());
-    unload();
-}
 
 QString MformList::fragment() {
     return selectList(selectValues(ui), pointList.points());

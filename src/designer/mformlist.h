@@ -13,9 +13,6 @@ public:
     explicit MformList(FormRegistry& forms);
     ~MformList() override;
 
-    // Create List: the name is tested while the dialog is still in sight.
-    void accept() override;
-
     struct Ui : SelectControls, PointControls {
         QPushButton* btnInsert = nullptr;
     } ui;
