@@ -88,8 +88,11 @@ TEST(RealProgramEnding, SignalsAndTheRunTimeFailureKeepTheDocumentInTheCrashFold
             ASSERT_TRUE(p.xdotool({"key", "ctrl+o"}));
             ASSERT_TRUE(
                 p.xdotool({"search", "--sync", "--onlyvisible", "--name", "^Assistant: Zelvo$"}));
-            ASSERT_TRUE(
-                p.xdotool({"sleep", "0.5", "key", "alt+n", "sleep", "1.5", "key", "Escape"}));
+            ASSERT_TRUE(p.xdotool({"sleep", "0.5", "key", "alt+n"}));
+            // Escape only once the file dialog is up and holds the keys: a busy
+            // machine may take seconds to show it.
+            ASSERT_TRUE(p.xdotool({"search", "--sync", "--onlyvisible", "--name", "^Open$"}));
+            ASSERT_TRUE(p.xdotool({"sleep", "0.5", "key", "Escape"}));
             ASSERT_TRUE(
                 p.xdotool({"search", "--sync", "--onlyvisible", "--name", "^Zelvo Tessara$"}));
             ASSERT_TRUE(p.xdotool({"key", "Return"}));
