@@ -1,6 +1,7 @@
 #include "timer.h"
 
 #include "guard.h"
+#include "runtimefailure.h"
 
 namespace zt {
 
@@ -10,6 +11,9 @@ Timer::Timer(int interval, QObject* parent) : QObject(parent), m_interval(interv
 }
 
 void Timer::setInterval(int ms) {
+    // The control's interval is an unsigned 16-bit number.
+    if (ms < 0 || ms > 65535)
+        throw RuntimeFailure::invalidPropertyValue();
     m_interval = ms;
     arm();
 }

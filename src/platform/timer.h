@@ -18,7 +18,8 @@ public:
     explicit Timer(int interval = 0, QObject* parent = nullptr);
 
     int interval() const { return m_interval; }
-    // As on the control: a new interval restarts the count of an enabled timer.
+    // As on the control: a new interval restarts the count of an enabled timer, and
+    // one beyond 65535 fails with 380, leaving the timer as it was.
     void setInterval(int ms);
     bool enabled() const { return m_enabled; }
     // Enabling starts a fresh count; disabling drops a pending tick.
