@@ -206,12 +206,6 @@ void StartUp::btnTemplates_Click() {
     unload();
 }
 
-void StartUp::btnCrash_Click() {
-    // TODO(crashRecover): show the crash recovery wizard here once the
-    // `crashRecover` form exists.
-    unload();
-}
-
 void StartUp::btnHTMLTutor_Click() {
     // TODO(HTML tutor): open the tutor here, the same way the HTML Tutor command of
     // the visual view does, once its window (`frmMoreTemp`) exists.

@@ -60,6 +60,7 @@ Tessara::Tessara(FormRegistry& forms)
                      guarded([this](bool) { ClosePrev_Click(); }));
 
     ui.Timer1.onTimer = [this] { Timer1_Timer(); };
+    ui.TimeCrashSave.onTimer = [this] { TimeCrashSave_Timer(); };
     ui.txtComp->onKeyPress = [this](QChar) { txtComp_onkeypress(); };
     ui.txtComp->onDisplayChanged = [this] { txtComp_DisplayChanged(); };
     ui.txtComp->onMouseMove = [this] { txtComp_onmousemove(); };

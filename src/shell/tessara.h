@@ -45,6 +45,8 @@ public:
     // A fragment into the page at the caret, completed by the next Timer1 tick.
     void VisualInsert(const QString& fragment);
     void Timer1_Timer();
+    // The timed save that the Crash Recovery Wizard configures.
+    void TimeCrashSave_Timer();
 
     void txtComp_onkeypress();
     void txtComp_DisplayChanged();

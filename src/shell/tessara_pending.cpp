@@ -15,12 +15,10 @@ void Tessara::mnuMetaGen() {}
 void Tessara::mnuInsRectBox() {}
 void Tessara::mnuPageTitle() {}
 void Tessara::mnuPageProps() {}
-void Tessara::mnuRestore() {}
 void Tessara::mnuSpellCheck() {}
 void Tessara::mnuRightClick() {}
 void Tessara::mnuDisableIEToolbar() {}
 void Tessara::mnuPrevTextSel() {}
-void Tessara::mnuCrashRecover() {}
 void Tessara::mnuText() {}
 void Tessara::mnuMarquee() {}
 void Tessara::mnuInsLayer() {}

@@ -18,11 +18,9 @@ void Zelvo::mnuRectangularBox() {}
 void Zelvo::mnuSpell() {}
 void Zelvo::mnuShowTempClip() {}
 void Zelvo::mnuCopyToTemp() {}
-void Zelvo::mnuRestore() {}
 void Zelvo::mnuPreventRightClick() {}
 void Zelvo::mnuDisImgTbar() {}
 void Zelvo::mnuProtectText() {}
-void Zelvo::mnuCrashWizard() {}
 void Zelvo::mnuText() {}
 void Zelvo::mnuMarquee() {}
 void Zelvo::mnuInsLayer() {}

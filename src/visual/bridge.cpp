@@ -58,7 +58,10 @@ void VisualSync(PageEngine& txtComp, RuleSet set, TextControl& target) {
 void SwitchToVisual(FormRegistry& forms) {
     Zelvo& zelvo = forms.get<Zelvo>();
     Tessara& tessara = forms.get<Tessara>();
-    tessara.ui.txtComp->setDocumentHTML(zelvo.ui.area.text());
+    // With the visual view already in front the source text is older than the page:
+    // copying it would throw away what was typed into the page.
+    if (zelvo.isVisible() || !tessara.isVisible())
+        tessara.ui.txtComp->setDocumentHTML(zelvo.ui.area.text());
     zelvo.hide();
     tessara.show();
 }

@@ -16,7 +16,8 @@ enum class RuleSet { FullScrub, StandardScrub, GeneratorOnly };
 void VisualSync(PageEngine& txtComp, RuleSet set, TextControl& target);
 
 // The source-to-visual copy, unchanged, then the source view hidden and the
-// visual one shown.
+// visual one shown. Called with the visual view in front (the crash wizard does), it
+// only keeps that view in front: the page is the newer text.
 void SwitchToVisual(FormRegistry& forms);
 
 } // namespace zt

@@ -3,9 +3,12 @@
 // with xdotool, since an offscreen program takes no input from outside.
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QMap>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -16,7 +19,9 @@ namespace {
 
 class RealProgram {
 public:
-    bool start() {
+    // Starts the program in a folder of this test's own, with files put into its
+    // crash folder first, and waits for its start-up window.
+    bool launch(const QMap<QString, QByteArray>& crashFiles = {}) {
         // A hard link beside the build: the program's folder is where it is started
         // from, and the crash folder must be one of this test's own.
         const QString built = QCoreApplication::applicationDirPath() + "/zelvo-tessara";
@@ -24,6 +29,11 @@ public:
             ::link(qPrintable(built), qPrintable(dir.filePath("zelvo-tessara"))) != 0)
             return false;
         QDir(dir.path()).mkdir("crash");
+        for (auto file = crashFiles.begin(); file != crashFiles.end(); ++file) {
+            QFile out(dir.filePath("crash/" + file.key()));
+            if (!out.open(QIODevice::WriteOnly) || out.write(file.value()) != file.value().size())
+                return false;
+        }
         display.start("Xvfb",
                       {"-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"});
         if (!display.waitForReadyRead(20000))
@@ -33,18 +43,37 @@ public:
         env.insert("XDG_CONFIG_HOME", dir.filePath("config"));
         program.setProcessEnvironment(env);
         program.start(dir.filePath("zelvo-tessara"), {});
-        if (!program.waitForStarted() ||
-            !xdotool({"search", "--sync", "--name", "Start Up Assistant"}))
+        return program.waitForStarted() &&
+               xdotool({"search", "--sync", "--name", "Start Up Assistant"});
+    }
+
+    // Then types into the page of the visual view, which marks the document. On a
+    // busy machine the page may not take keys yet, so it types again until it does.
+    bool start(const QString& typed = "typed") {
+        if (!launch())
             return false;
-        // Then types into the page of the visual view, which marks the document. On a
-        // busy machine the page may not take keys yet, so it types again until it does.
         for (int attempt = 0; attempt < 5; ++attempt) {
             xdotool({"search", "--name", "^Untitled\\(", "windowfocus", "--sync", "type", "--delay",
-                     "50", "typed"});
+                     "50", typed});
             if (xdotool({"sleep", "2", "search", "--name", "\\(\\*\\)"}))
                 return true;
         }
         return false;
+    }
+
+    // Focuses the visual view and picks the last item of its Options menu.
+    bool openCrashRecovery() {
+        return xdotool({"search", "--onlyvisible", "--name", "^(Untitled|Zelvo Tessara: )",
+                        "windowfocus", "--sync", "key", "alt+p", "sleep", "0.5", "key", "Up",
+                        "Return"}) &&
+               xdotool(
+                   {"search", "--sync", "--onlyvisible", "--name", "^Crash Recovery Wizard$"}) &&
+               xdotool({"sleep", "0.5"});
+    }
+
+    QByteArray read(const QString& name) {
+        QFile file(dir.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     bool xdotool(const QStringList& args) {
@@ -107,4 +136,53 @@ TEST(RealProgramEnding, SignalsAndTheRunTimeFailureKeepTheDocumentInTheCrashFold
         QFile file(p.dir.filePath("crash/" + files[0]));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll().contains("<BODY")) << way.what;
     }
+}
+
+// A crash save configured through the wizard outlives a kill that nothing can catch,
+// and the next run loads it back through the wizard's list.
+TEST(RealProgramEnding, AKilledProgramsCrashSaveLoadsBackInTheNextRun) {
+    if (QStandardPaths::findExecutable("Xvfb").isEmpty() ||
+        QStandardPaths::findExecutable("xdotool").isEmpty())
+        GTEST_SKIP() << "needs Xvfb and xdotool";
+    QByteArray saved;
+    {
+        RealProgram p;
+        ASSERT_TRUE(p.start("kept"));
+        ASSERT_TRUE(p.openCrashRecovery());
+        // The name, a second between saves, and Configure.
+        ASSERT_TRUE(p.xdotool({"type", "--delay", "50", "work"}));
+        ASSERT_TRUE(p.xdotool({"key", "Tab", "type", "1"}));
+        ASSERT_TRUE(p.xdotool({"key", "Tab", "space"}));
+        QElapsedTimer waited;
+        waited.start();
+        while (!p.read("crash/work.crw").contains("kept") && waited.elapsed() < 20000)
+            QThread::msleep(200);
+        saved = p.read("crash/work.crw");
+        ASSERT_TRUE(saved.contains("kept"));
+        ::kill(pid_t(p.program.processId()), SIGKILL);
+        ASSERT_TRUE(p.program.waitForFinished(10000));
+    }
+    RealProgram next;
+    ASSERT_TRUE(next.launch({{"work.crw", saved}}));
+    ASSERT_TRUE(next.openCrashRecovery());
+    // Past the name, the timer, Configure and Disable to the list; the first file,
+    // Load Document, and OK to the question.
+    ASSERT_TRUE(next.xdotool({"key", "Tab", "Tab", "Tab", "Tab", "Home"}));
+    ASSERT_TRUE(next.xdotool({"key", "Tab", "space"}));
+    ASSERT_TRUE(
+        next.xdotool({"search", "--sync", "--onlyvisible", "--name", "^Assistant: Zelvo$"}));
+    ASSERT_TRUE(next.xdotool({"sleep", "0.5", "key", "Return"}));
+    // The page has no name: Save asks for one, and the file shows what it holds.
+    const QString out = next.dir.filePath("out.html");
+    ASSERT_TRUE(
+        next.xdotool({"sleep", "1", "search", "--onlyvisible", "--name",
+                      "^(Untitled|Zelvo Tessara: )", "windowfocus", "--sync", "key", "ctrl+s"}));
+    ASSERT_TRUE(next.xdotool({"search", "--sync", "--onlyvisible", "--name", "^Save"}));
+    ASSERT_TRUE(next.xdotool({"sleep", "0.5", "type", "--delay", "20", out}));
+    ASSERT_TRUE(next.xdotool({"key", "Return"}));
+    QElapsedTimer waited;
+    waited.start();
+    while (!next.read("out.html").contains("kept") && waited.elapsed() < 20000)
+        QThread::msleep(200);
+    EXPECT_TRUE(next.read("out.html").contains("kept"));
 }
