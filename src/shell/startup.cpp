@@ -200,12 +200,6 @@ void StartUp::btnOpenExist_Click() {
     unload();
 }
 
-void StartUp::btnTemplates_Click() {
-    // TODO(templates): fill and show the template gallery here, the same way the
-    // Templates command of the views does, once the `templates` form exists.
-    unload();
-}
-
 void StartUp::btnHTMLTutor_Click() {
     // TODO(HTML tutor): open the tutor here, the same way the HTML Tutor command of
     // the visual view does, once its window (`frmMoreTemp`) exists.

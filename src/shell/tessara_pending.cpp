@@ -24,10 +24,6 @@ void Tessara::mnuMarquee() {}
 void Tessara::mnuInsLayer() {}
 void Tessara::mnuFlash() {}
 void Tessara::mnuStripHTML() {}
-void Tessara::mnuTemplates() {}
-void Tessara::mnuConvTemplate() {}
-void Tessara::mnuImportTemplate() {}
-void Tessara::mnuMoreTemplates() {}
 void Tessara::mnuLayoutManager() {}
 void Tessara::mnuStyleSheet() {}
 void Tessara::mnuNavigator() {}

@@ -16,8 +16,6 @@ void Zelvo::mnuFont() {}
 void Zelvo::mnuPageTitle() {}
 void Zelvo::mnuRectangularBox() {}
 void Zelvo::mnuSpell() {}
-void Zelvo::mnuShowTempClip() {}
-void Zelvo::mnuCopyToTemp() {}
 void Zelvo::mnuPreventRightClick() {}
 void Zelvo::mnuDisImgTbar() {}
 void Zelvo::mnuProtectText() {}
@@ -28,10 +26,6 @@ void Zelvo::mnuFlash() {}
 void Zelvo::mnuMakeDefault() {}
 void Zelvo::mnuBookmarkPage() {}
 void Zelvo::mnuChangePointer() {}
-void Zelvo::mnuTemplates() {}
-void Zelvo::mnuCreateTemplate() {}
-void Zelvo::mnuImportTemplate() {}
-void Zelvo::mnuMoreTemplates() {}
 void Zelvo::mnuLayoutManager() {}
 void Zelvo::mnuStyleSheet() {}
 void Zelvo::mnuNavigator() {}

@@ -1,15 +1,22 @@
 #include "views.h"
 
+#include "help/frmmoretemp.h"
+#include "platform/engine/memoryengine.h"
 #include "platform/filelistbox.h"
 #include "platform/textlineview.h"
 #include "safety/crashrecover.h"
 #include "safety/restore.h"
+#include "safety/tempclip.h"
+#include "safety/templates.h"
 #include "shell/startup.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QLabel>
+#include <QListWidget>
+#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
 
@@ -205,4 +212,125 @@ TEST(CrashRecovery, DisableKeepsSavingAndLoadBringsASaveBack) {
                      "Are you sure you want to load this document?",
                      "Error 05:\r\nAn error occured when trying to perform requested operation",
                      "Are you sure you want to load this document?"}));
+}
+
+// Snippets from the source text, whole with their breaks; Paste takes the display
+// box as it stands, which Remove and Clear leave alone; a drop makes the display's
+// selection a row.
+TEST(TemporaryClipboard, CollectsPastesAndKeepsTheDisplay) {
+    Views v;
+    v.area().setText("a\r\nb c");
+    v.area().setSelLength(4);
+    v.zelvo.ui.mnuCopyToTemp->trigger();
+    v.zelvo.ui.mnuCopyToTemp->trigger();
+    v.area().setSelLength(0);
+    v.zelvo.ui.mnuCopyToTemp->trigger();
+    TempClip& clip = v.program.forms->get<TempClip>();
+    EXPECT_FALSE(clip.isVisible());
+    ASSERT_EQ(clip.ui.listClip->count(), 2);
+    clip.ui.listClip->setCurrentRow(1);
+    clip.listClip_Click();
+    EXPECT_EQ(clip.ui.txtClip.text(), "a\r\nb");
+
+    clip.ui.txtClip.setText("hello world");
+    clip.ui.txtClip.setSelStart(6);
+    clip.ui.txtClip.setSelLength(5);
+    QMimeData data;
+    data.setText("anything");
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(clip.ui.listClip->viewport(), &enter);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(clip.ui.listClip->viewport(), &drop);
+    EXPECT_EQ(clip.itemText(2), "world");
+
+    clip.ui.btnRemove->click();
+    EXPECT_EQ(clip.ui.listClip->count(), 2);
+    v.program.prompts.answers = {vbNo, vbYes};
+    clip.ui.btnClear->click();
+    EXPECT_EQ(clip.ui.listClip->count(), 2);
+    clip.ui.btnClear->click();
+    EXPECT_EQ(clip.ui.listClip->count(), 0);
+    clip.ui.btnRemove->click();
+    v.area().setSelStart(0);
+    clip.ui.btnPaste->click();
+    EXPECT_EQ(v.area().text(), "hello worlda\r\nb c");
+    EXPECT_EQ(v.asked(),
+              QStringList({"This will clear Temporary Clipboard. Proceed?",
+                           "This will clear Temporary Clipboard. Proceed?", "No item selected"}));
+}
+
+// Templates are written as "Temp" and read as "temp", listed by the name cut out of
+// the file's name whatever that is; OK asks and loads, and its No ends in the error
+// box; Create and Import say how they ended.
+TEST(Templates, CreateListChooseAndImport) {
+    Views v;
+    const QString folder = v.program.folder.root() + "/templates/";
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    writeFile(folder + "mypage.html", "x");
+    writeFile(folder + "a.htm", "x");
+    v.txtComp().setDocumentHTML("<HTML><BODY>designed</BODY></HTML>");
+    v.program.prompts.inputs = {"My Page", "   "};
+    v.zelvo.ui.mnuCreateTemplate->trigger();
+    v.tessara.ui.mnuConvTemplate->trigger();
+    EXPECT_TRUE(readFile(folder + "TempMyPage.html").contains("designed"));
+
+    v.zelvo.ui.mnuTemplates->trigger();
+    templates& manager = v.program.forms->get<templates>();
+    QStringList names;
+    for (int row = 0; row < manager.ui.listTemplates->count(); ++row)
+        names << manager.ui.listTemplates->item(row)->text();
+    EXPECT_EQ(names.join('|').toStdString(), "a.htm|ge|MyPage");
+    EXPECT_TRUE(manager.isVisible() && manager.ui.PrevTemplate->browseMode());
+    manager.ui.listTemplates->setCurrentRow(2);
+    EXPECT_TRUE(manager.ui.PrevTemplate->documentHTML().contains("designed"));
+
+    v.txtComp().setDocumentHTML("<HTML><BODY>mine</BODY></HTML>");
+    v.program.prompts.answers = {vbNo};
+    manager.ui.OKButton->click();
+    EXPECT_TRUE(v.txtComp().documentHTML().contains("mine"));
+    v.program.prompts.answers = {vbYes};
+    manager.ui.OKButton->click();
+    EXPECT_TRUE(v.txtComp().documentHTML().contains("designed") && v.tessara.isVisible());
+
+    // Import: Cancel in the file dialog fails; a file with no name given stays in
+    // the page and makes no template.
+    const QString page = v.file("found.html", "<HTML><BODY>found</BODY></HTML>");
+    v.program.pickers.files = {std::nullopt, page, page};
+    v.program.prompts.inputs = {"", "Found"};
+    for (int i = 0; i < 3; ++i)
+        v.tessara.ui.mnuImportTemplate->trigger();
+    EXPECT_TRUE(v.txtComp().documentHTML().contains("found"));
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files).join('|').toStdString(),
+              "a.htm|mypage.html|TempFound.html|TempMyPage.html");
+
+    v.program.prompts.inputs = {"no/such"};
+    v.zelvo.ui.mnuCreateTemplate->trigger();
+    QStringList said;
+    for (const auto& q : v.program.prompts.asked)
+        if (!q.text.startsWith("Enter the name"))
+            said << q.title + ": " + q.text.left(24);
+    EXPECT_EQ(said.join('\n').toStdString(),
+              "Template Manager: Template Created!\n"
+              "Assistant: Zelvo: Are you sure you want to\n"
+              "Error Loading Template: Error loading template. \n"
+              "Assistant: Zelvo: Are you sure you want to\n"
+              "Assistant: Zelvo: An error occurred while \n"
+              "Template Manager: Template Imported!\n"
+              "Unable to create template!: An error occured while c");
+}
+
+TEST(Templates, TheAssistantAndMoreTemplatesOpenTheirWindows) {
+    Views v;
+    v.program.forms->get<StartUp>().ui.btnTemplates->click();
+    EXPECT_FALSE(v.program.forms->isLoaded<StartUp>());
+    EXPECT_TRUE(v.program.forms->get<templates>().isVisible());
+    EXPECT_EQ(v.program.forms->get<templates>().ui.listTemplates->count(), 4);
+    v.zelvo.ui.mnuMoreTemplates->trigger();
+    frmMoreTemp& browser = v.program.forms->get<frmMoreTemp>();
+    EXPECT_EQ(browser.caption(), "Download 300+ professional templates FREE:  Zelvo Tessara 3.0");
+    EXPECT_TRUE(browser.isVisible() && browser.ui.cmbLessons->isHidden());
+    EXPECT_TRUE(static_cast<MemoryEngine&>(*browser.ui.theWeb)
+                    .loadedURL()
+                    .endsWith("/misc/moretemplates.html"));
 }
