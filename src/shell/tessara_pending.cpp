@@ -32,7 +32,6 @@ void Tessara::mnuImportTemplate() {}
 void Tessara::mnuMoreTemplates() {}
 void Tessara::mnuLayoutManager() {}
 void Tessara::mnuStyleSheet() {}
-void Tessara::mnuNavigator() {}
 void Tessara::mnuFTPClient() {}
 void Tessara::mnuFileViewer() {}
 void Tessara::mnuJavaScriptCons() {}

@@ -36,7 +36,6 @@ void Zelvo::mnuImportTemplate() {}
 void Zelvo::mnuMoreTemplates() {}
 void Zelvo::mnuLayoutManager() {}
 void Zelvo::mnuStyleSheet() {}
-void Zelvo::mnuNavigator() {}
 void Zelvo::mnuFTPClient() {}
 void Zelvo::mnuPlugIn() {}
 void Zelvo::mnuHTMLtutorial() {}
