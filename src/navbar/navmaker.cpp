@@ -12,7 +12,8 @@
 #include "platform/vbstrings.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -173,6 +174,10 @@ NavMaker::NavMaker(FormRegistry& forms) : Form(forms), ui(*forms.services().pick
     // Enter previews, as the user is told to do after every change.
     ui.btnPreview->setDefault(true);
 
+    // The basic fields stand at their labels, as in the groups below, not at the
+    // far side of the wide group.
+    static_cast<QGridLayout*>(window->findChild<QGroupBox*>("frmBasic")->layout())
+        ->setColumnStretch(3, 1);
     // The fields are narrow: they hold a colour, a number or a border type.
     for (auto* view : window->findChildren<TextLineView*>())
         view->setFixedWidth(80);
