@@ -14,11 +14,8 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QToolButton>
-#include <QVBoxLayout>
 
 #include <vector>
 
@@ -62,29 +59,10 @@ NavMaker::NavMaker(FormRegistry& forms) : Form(forms), ui(*forms.services().pick
     ui.Result = services().makeEngine(window);
 
     // The arrows beside a thickness field, after its unit.
-    const auto arrowsFor = [this](const char* name, UpDown& arrows, TextControl& thickness) {
-        return widget(name, [this, &arrows, &thickness](QWidget* parent) {
-            auto* box = new QWidget(parent);
-            auto* row = new QHBoxLayout(box);
-            row->setContentsMargins(0, 0, 0, 0);
-            row->setSpacing(2);
-            row->addWidget(new QLabel(QStringLiteral("px"), box));
-            auto* column = new QVBoxLayout;
-            column->setSpacing(0);
-            row->addLayout(column);
-            const auto arrow = [&](QToolButton*& button, Qt::ArrowType type, int step) {
-                button = new QToolButton(box);
-                button->setArrowType(type);
-                button->setAutoRepeat(true);
-                button->setFixedSize(18, 11);
-                button->setFocusPolicy(Qt::NoFocus);
-                column->addWidget(button);
-                onClick(button, [this, &thickness, step] { this->upDown(thickness, step); });
-            };
-            arrow(arrows.up, Qt::UpArrow, 1);
-            arrow(arrows.down, Qt::DownArrow, -1);
-            return box;
-        });
+    const auto arrowsFor = [this](const char* name, SpinArrows& arrows, TextControl& thickness) {
+        return spinArrows(
+            name, arrows, [this, &thickness](int step) { upDown(thickness, step); },
+            QStringLiteral("px"));
     };
 
     Rows rows;

@@ -2,6 +2,8 @@
 
 #include "navgen.h"
 
+#include "builders/spinarrows.h"
+
 #include "platform/commondialog.h"
 #include "platform/engine/pageengine.h"
 #include "platform/form.h"
@@ -11,7 +13,6 @@
 
 class QComboBox;
 class QPushButton;
-class QToolButton;
 
 namespace zt {
 
@@ -40,12 +41,6 @@ public:
     // field that holds no number fails.
     void upDown(TextControl& thickness, int step);
 
-    // The two arrows beside a thickness field.
-    struct UpDown {
-        QToolButton* up = nullptr;
-        QToolButton* down = nullptr;
-    };
-
     struct Ui {
         explicit Ui(Pickers& pickers) : ComDlg(pickers) {}
 
@@ -63,7 +58,7 @@ public:
         QComboBox* cmbLinkBorderType = nullptr;
         TextControl txtLinkThickness;
         TextLineView* txtLinkThicknessView = nullptr;
-        UpDown UDLink;
+        SpinArrows UDLink;
         TextControl txtLinkColour;
         TextLineView* txtLinkColourView = nullptr;
         QPushButton* btnLinkColour = nullptr;
@@ -77,7 +72,7 @@ public:
         QComboBox* cmbLinkABorderType = nullptr;
         TextControl txtALinkThickness;
         TextLineView* txtALinkThicknessView = nullptr;
-        UpDown UDALink;
+        SpinArrows UDALink;
         TextControl txtALinkColour;
         TextLineView* txtALinkColourView = nullptr;
         QPushButton* btnALinkColour = nullptr;
@@ -91,7 +86,7 @@ public:
         QComboBox* cmbLinkHBorderType = nullptr;
         TextControl txtHLinkThickness;
         TextLineView* txtHLinkThicknessView = nullptr;
-        UpDown UDHLink;
+        SpinArrows UDHLink;
         TextControl txtHLinkColour;
         TextLineView* txtHLinkColourView = nullptr;
         QPushButton* btnHLinkColour = nullptr;
@@ -105,7 +100,7 @@ public:
         QComboBox* cmbLinkVBorderType = nullptr;
         TextControl txtVLinkThickness;
         TextLineView* txtVLinkThicknessView = nullptr;
-        UpDown UDVLink;
+        SpinArrows UDVLink;
         TextControl txtVLinkColour;
         TextLineView* txtVLinkColourView = nullptr;
         QPushButton* btnVLinkColour = nullptr;
