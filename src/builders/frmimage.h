@@ -1,6 +1,7 @@
 #pragma once
 
 #include "elementdialog.h"
+#include "spinarrows.h"
 
 #include "platform/commondialog.h"
 #include "platform/textcontrol.h"
@@ -8,7 +9,6 @@
 class QCheckBox;
 class QComboBox;
 class QPushButton;
-class QToolButton;
 
 namespace zt {
 
@@ -31,12 +31,6 @@ public:
     // The Insert button.
     void accept() override;
 
-    // The two arrows beside a number field.
-    struct Spin {
-        QToolButton* up = nullptr;
-        QToolButton* down = nullptr;
-    };
-
     struct Ui {
         explicit Ui(Pickers& pickers) : comdlg(pickers) {}
 
@@ -55,13 +49,13 @@ public:
         QCheckBox* chkWPercentage = nullptr;
         TextControl txtHSpace;
         TextLineView* txtHSpaceView = nullptr;
-        Spin updHSpace;
+        SpinArrows updHSpace;
         TextControl txtVSpace;
         TextLineView* txtVSpaceView = nullptr;
-        Spin updVSpace;
+        SpinArrows updVSpace;
         TextControl txtBorder;
         TextLineView* txtBorderView = nullptr;
-        Spin updBorder;
+        SpinArrows updBorder;
         QComboBox* cmbAlign = nullptr;
         ImagePreview* imgPreview = nullptr;
         QPushButton* btnInsert = nullptr;
@@ -76,7 +70,7 @@ protected:
 private:
     // Dimensions asked for need both a height and a width.
     bool warnedOfDimensions();
-    Field spinButtons(const char* name, Spin& arrows, TextControl& field);
+    Field spinButtons(const char* name, SpinArrows& arrows, TextControl& field);
 };
 
 } // namespace zt

@@ -91,7 +91,7 @@ QWidget* PointList::make(QWidget* parent) {
         new EnterAdds(box, [this] { btnAdd_Click(); });
     }
     box->setObjectName(QStringLiteral("txtPoints"));
-    auto* pointLabel = new QLabel(QStringLiteral("&Point:"), editor);
+    auto* pointLabel = new QLabel(m_rules.pointCaption, editor);
     pointLabel->setBuddy(box);
     auto* point = new QHBoxLayout;
     point->addWidget(pointLabel);
@@ -182,10 +182,12 @@ void PointList::btnAdd_Click() {
         } else if (const QString url = prompts.inputBox(
                        QStringLiteral(
                            "Enter the url/location to which the point has to be linked to"),
-                       QStringLiteral("Enter address/URL"));
+                       QStringLiteral("Enter address/URL"), m_rules.urlDefault);
                    !url.isEmpty()) {
             m_ui.listURL->addItem(url);
             m_ui.listPoints->addItem(m_ui.txtPoints.text());
+        } else if (m_rules.plainUrlWarning) {
+            prompts.msgBox(QStringLiteral("Valid URL was not entered"));
         } else {
             prompts.msgBox(QStringLiteral("Valid URL was not entered"), vbExclamation, kAssistant);
         }
@@ -241,10 +243,17 @@ void PointList::moveThroughCorrection(int step) {
 }
 
 // The row is copied to its new place and the old one removed. The first row does
-// not go up, the last does not go down, and without a selected row nothing moves.
+// not go up, the last does not go down, and without a selected row nothing moves
+// unless the rules say otherwise. The address list selects the row first.
 void PointList::move(int step) {
     const int row = selectedRow(m_ui.listPoints);
     const int to = row + step;
+    if (m_ui.listURL)
+        m_ui.listURL->setCurrentRow(row);
+    if (row < 0 && step > 0 && m_rules.downWithoutSelection && m_ui.listPoints->count() > 0) {
+        m_ui.listPoints->insertItem(1, QString());
+        return;
+    }
     if (row < 0 || to < 0 || to >= m_ui.listPoints->count())
         return;
     for (QListWidget* list : lists()) {

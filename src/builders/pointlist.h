@@ -38,6 +38,7 @@ struct PointControls {
 struct PointRules {
     // The caption above the list of points.
     QString pointsCaption;
+    QString pointCaption = QStringLiteral("&Point:");
     QString addCaption = QStringLiteral("&Add");
     // The point's box takes several lines, and a line break typed at its end adds the
     // point: Enter adds it there too, as the one line it is.
@@ -48,6 +49,15 @@ struct PointRules {
     bool movesThroughCorrection = false;
     // Each point links to an address that Add asks for, kept in listURL.
     bool linked = false;
+    // The address Add offers.
+    QString urlDefault = {};
+    // An address not given is told in a plain box with the default title, not in a
+    // warning of the assistant.
+    bool plainUrlWarning = false;
+    // Down with no row selected is not refused: it reads row -1 as an empty point,
+    // puts that in at row 1 of the points and fails at taking row -1 out, which ends
+    // it there, one row longer than the addresses.
+    bool downWithoutSelection = false;
     // Each button hides the dialog while it works and shows it again at the end.
     bool hidesAround = false;
     QString removeWarning = QStringLiteral("No point selected to remove");

@@ -26,7 +26,6 @@ void Tessara::mnuFlash() {}
 void Tessara::mnuStripHTML() {}
 void Tessara::mnuLayoutManager() {}
 void Tessara::mnuStyleSheet() {}
-void Tessara::mnuNavigator() {}
 void Tessara::mnuFTPClient() {}
 void Tessara::mnuFileViewer() {}
 void Tessara::mnuJavaScriptCons() {}

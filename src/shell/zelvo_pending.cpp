@@ -28,7 +28,6 @@ void Zelvo::mnuBookmarkPage() {}
 void Zelvo::mnuChangePointer() {}
 void Zelvo::mnuLayoutManager() {}
 void Zelvo::mnuStyleSheet() {}
-void Zelvo::mnuNavigator() {}
 void Zelvo::mnuFTPClient() {}
 void Zelvo::mnuPlugIn() {}
 void Zelvo::mnuHTMLtutorial() {}
