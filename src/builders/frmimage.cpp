@@ -14,8 +14,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QPushButton>
-#include <QToolButton>
-#include <QVBoxLayout>
 
 namespace zt {
 
@@ -78,25 +76,8 @@ frmImage::frmImage(FormRegistry& forms)
 
 frmImage::~frmImage() = default;
 
-Field frmImage::spinButtons(const char* name, Spin& arrows, TextControl& field) {
-    return widget(name, [this, &arrows, &field](QWidget* parent) {
-        auto* pair = new QWidget(parent);
-        auto* column = new QVBoxLayout(pair);
-        column->setContentsMargins(0, 0, 0, 0);
-        column->setSpacing(0);
-        const auto arrow = [&](QToolButton*& button, Qt::ArrowType type, int step) {
-            button = new QToolButton(pair);
-            button->setArrowType(type);
-            button->setAutoRepeat(true);
-            button->setFixedSize(18, 12);
-            button->setFocusPolicy(Qt::NoFocus);
-            column->addWidget(button);
-            onClick(button, [this, &field, step] { spin(field, step); });
-        };
-        arrow(arrows.up, Qt::UpArrow, 1);
-        arrow(arrows.down, Qt::DownArrow, -1);
-        return pair;
-    });
+Field frmImage::spinButtons(const char* name, UpDown& arrows, TextControl& field) {
+    return upDown(name, arrows, [this, &field](int step) { spin(field, step); });
 }
 
 QString frmImage::fragment() {
@@ -160,9 +141,7 @@ void frmImage::chkDimensions_Click() {
 void frmImage::spin(TextControl& field, int step) {
     if (field.text().isEmpty())
         field.setText(QStringLiteral("0"));
-    const double value = vb::CDbl(field.text());
-    if (step > 0 || value > 0)
-        field.setText(vb::CStr(value + step));
+    stepNumber(field, step);
 }
 
 } // namespace zt

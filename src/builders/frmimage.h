@@ -4,11 +4,11 @@
 
 #include "platform/commondialog.h"
 #include "platform/textcontrol.h"
+#include "platform/updown.h"
 
 class QCheckBox;
 class QComboBox;
 class QPushButton;
-class QToolButton;
 
 namespace zt {
 
@@ -31,12 +31,6 @@ public:
     // The Insert button.
     void accept() override;
 
-    // The two arrows beside a number field.
-    struct Spin {
-        QToolButton* up = nullptr;
-        QToolButton* down = nullptr;
-    };
-
     struct Ui {
         explicit Ui(Pickers& pickers) : comdlg(pickers) {}
 
@@ -55,13 +49,13 @@ public:
         QCheckBox* chkWPercentage = nullptr;
         TextControl txtHSpace;
         TextLineView* txtHSpaceView = nullptr;
-        Spin updHSpace;
+        UpDown updHSpace;
         TextControl txtVSpace;
         TextLineView* txtVSpaceView = nullptr;
-        Spin updVSpace;
+        UpDown updVSpace;
         TextControl txtBorder;
         TextLineView* txtBorderView = nullptr;
-        Spin updBorder;
+        UpDown updBorder;
         QComboBox* cmbAlign = nullptr;
         ImagePreview* imgPreview = nullptr;
         QPushButton* btnInsert = nullptr;
@@ -76,7 +70,7 @@ protected:
 private:
     // Dimensions asked for need both a height and a width.
     bool warnedOfDimensions();
-    Field spinButtons(const char* name, Spin& arrows, TextControl& field);
+    Field spinButtons(const char* name, UpDown& arrows, TextControl& field);
 };
 
 } // namespace zt
