@@ -30,7 +30,6 @@ void Tessara::mnuTemplates() {}
 void Tessara::mnuConvTemplate() {}
 void Tessara::mnuImportTemplate() {}
 void Tessara::mnuMoreTemplates() {}
-void Tessara::mnuLayoutManager() {}
 void Tessara::mnuStyleSheet() {}
 void Tessara::mnuNavigator() {}
 void Tessara::mnuFTPClient() {}

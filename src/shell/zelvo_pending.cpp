@@ -34,7 +34,6 @@ void Zelvo::mnuTemplates() {}
 void Zelvo::mnuCreateTemplate() {}
 void Zelvo::mnuImportTemplate() {}
 void Zelvo::mnuMoreTemplates() {}
-void Zelvo::mnuLayoutManager() {}
 void Zelvo::mnuStyleSheet() {}
 void Zelvo::mnuNavigator() {}
 void Zelvo::mnuFTPClient() {}
