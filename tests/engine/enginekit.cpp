@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QTest>
 #include <QWebEnginePage>
 #include <QWebEngineScript>
 #include <QWebEngineView>
@@ -118,6 +119,18 @@ std::string bodyOf(PageEngine& engine) {
     return page.mid(start, page.lastIndexOf(QLatin1String("</BODY>")) - start)
         .trimmed()
         .toStdString();
+}
+
+QWidget* inputOf(PageEngine& engine) {
+    return engine.widget()->focusProxy();
+}
+
+void dragTo(QWidget* widget, QPoint from, QPoint to) {
+    QTest::mouseMove(widget, from);
+    QTest::mousePress(widget, Qt::LeftButton, {}, from);
+    QTest::mouseMove(widget, (from + to) / 2);
+    QTest::mouseMove(widget, to);
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
 }
 
 } // namespace zt::test
