@@ -97,14 +97,14 @@ LBoxProps::LBoxProps(FormRegistry& forms)
     controls.push_back({button("CancelButton", ui.CancelButton), "Cancel", "", Place::Cancel});
     build(controls);
 
-    onClick(ui.btnBGColour, [this] { pickColour(ui.txtBGColour); });
-    for (const BorderGroup& g : kGroups) {
-        TextControl& colour = ui.*g.colour;
-        onClick(ui.*g.button, [this, &colour] { pickColour(colour); });
-        (ui.*g.button)->setToolTip(QStringLiteral("Pick a colour"));
-        (ui.*g.thicknessView)->setMaximumWidth(60);
-    }
-    ui.btnBGColour->setToolTip(QStringLiteral("Pick a colour"));
+    const auto colourButton = [this](QPushButton* button, TextControl& colour) {
+        onClick(button, [this, &colour] { pickColour(colour); });
+        button->setToolTip(QStringLiteral("Pick a colour"));
+        button->setFixedWidth(32);
+    };
+    colourButton(ui.btnBGColour, ui.txtBGColour);
+    for (const BorderGroup& g : kGroups)
+        colourButton(ui.*g.button, ui.*g.colour);
 }
 
 LBoxProps::~LBoxProps() = default;
