@@ -4,6 +4,7 @@
 #include "platform/engine/pendinganswer.h"
 #include "platform/engine/webengine.h"
 #include "platform/guard.h"
+#include "support/testprogram.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -119,6 +120,14 @@ std::string bodyOf(PageEngine& engine) {
     return page.mid(start, page.lastIndexOf(QLatin1String("</BODY>")) - start)
         .trimmed()
         .toStdString();
+}
+
+std::unique_ptr<TestProgram> realProgram() {
+    auto program = std::make_unique<TestProgram>();
+    program->services.makeEngine = [clipboard = &program->clipboard](QWidget* parent) {
+        return std::make_unique<WebPageEngine>(*clipboard, parent);
+    };
+    return program;
 }
 
 QWidget* inputOf(PageEngine& engine) {

@@ -78,6 +78,10 @@ QString pageWithMarker(const QString& body);
 void setBody(PageEngine& engine, const char* body);
 std::string bodyOf(PageEngine& engine);
 
+class TestProgram;
+// A scenario's program whose every engine is a real one.
+std::unique_ptr<TestProgram> realProgram();
+
 // The widget of an engine's view that takes the mouse and the keys.
 QWidget* inputOf(PageEngine& engine);
 // A press at from, two moves and the release at to, in widget's coordinates.

@@ -43,10 +43,7 @@ void addField(TestProgram& program, QToolButton* opener, const char* name, QPoin
 } // namespace
 
 TEST(FormDesigner, AFormDrawnByTheMouseEndsInTheViewThatOpenedTheDesigner) {
-    auto program = std::make_unique<TestProgram>();
-    program->services.makeEngine = [&](QWidget* parent) {
-        return std::make_unique<WebPageEngine>(program->clipboard, parent);
-    };
+    auto program = realProgram();
     Zelvo& zelvo = program->forms->get<Zelvo>();
     zelvo.ui.area.setText("<HTML><HEAD></HEAD><BODY><P>x</P></BODY></HTML>");
     program->event([&] { zelvo.mnuTessara(); });
