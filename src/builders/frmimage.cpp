@@ -76,8 +76,8 @@ frmImage::frmImage(FormRegistry& forms)
 
 frmImage::~frmImage() = default;
 
-Field frmImage::spinButtons(const char* name, SpinArrows& arrows, TextControl& field) {
-    return spinArrows(name, arrows, [this, &field](int step) { spin(field, step); });
+Field frmImage::spinButtons(const char* name, UpDown& arrows, TextControl& field) {
+    return upDown(name, arrows, [this, &field](int step) { spin(field, step); });
 }
 
 QString frmImage::fragment() {
@@ -141,9 +141,7 @@ void frmImage::chkDimensions_Click() {
 void frmImage::spin(TextControl& field, int step) {
     if (field.text().isEmpty())
         field.setText(QStringLiteral("0"));
-    const double value = vb::CDbl(field.text());
-    if (step > 0 || value > 0)
-        field.setText(vb::CStr(value + step));
+    stepNumber(field, step);
 }
 
 } // namespace zt

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "elementdialog.h"
-#include "spinarrows.h"
 
 #include "platform/commondialog.h"
 #include "platform/textcontrol.h"
+#include "platform/updown.h"
 
 class QCheckBox;
 class QComboBox;
@@ -49,13 +49,13 @@ public:
         QCheckBox* chkWPercentage = nullptr;
         TextControl txtHSpace;
         TextLineView* txtHSpaceView = nullptr;
-        SpinArrows updHSpace;
+        UpDown updHSpace;
         TextControl txtVSpace;
         TextLineView* txtVSpaceView = nullptr;
-        SpinArrows updVSpace;
+        UpDown updVSpace;
         TextControl txtBorder;
         TextLineView* txtBorderView = nullptr;
-        SpinArrows updBorder;
+        UpDown updBorder;
         QComboBox* cmbAlign = nullptr;
         ImagePreview* imgPreview = nullptr;
         QPushButton* btnInsert = nullptr;
@@ -70,7 +70,7 @@ protected:
 private:
     // Dimensions asked for need both a height and a width.
     bool warnedOfDimensions();
-    Field spinButtons(const char* name, SpinArrows& arrows, TextControl& field);
+    Field spinButtons(const char* name, UpDown& arrows, TextControl& field);
 };
 
 } // namespace zt

@@ -155,8 +155,4 @@ const std::vector<MenuRow<morvane>>& morvaneMenus();
 const std::vector<ToolKey<morvane>>& morvaneToolKeys();
 const std::vector<FormatButton<morvane>>& morvaneButtons();
 
-// A design document as the designer writes it: the text and the CR LF that ends a
-// written line, in the desktop's old code page (Windows-1252).
-void writeDesignFile(const QString& path, const QString& text);
-
 } // namespace zt

@@ -1,5 +1,6 @@
 #include "mwizard.h"
 
+#include "designfile.h"
 #include "morvane.h"
 
 #include "platform/desktop.h"

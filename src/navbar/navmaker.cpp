@@ -59,9 +59,9 @@ NavMaker::NavMaker(FormRegistry& forms) : Form(forms), ui(*forms.services().pick
     ui.Result = services().makeEngine(window);
 
     // The arrows beside a thickness field, after its unit.
-    const auto arrowsFor = [this](const char* name, SpinArrows& arrows, TextControl& thickness) {
-        return spinArrows(
-            name, arrows, [this, &thickness](int step) { upDown(thickness, step); },
+    const auto arrowsFor = [](const char* name, UpDown& arrows, TextControl& thickness) {
+        return upDown(
+            name, arrows, [&thickness](int step) { stepNumber(thickness, step); },
             QStringLiteral("px"));
     };
 
@@ -224,12 +224,6 @@ void NavMaker::btnHelp_Click() {
 void NavMaker::pickColour(TextControl& field) {
     ui.ComDlg.showColor();
     field.setText(ui.ComDlg.color == 0 ? QString() : hexColour(ui.ComDlg.color));
-}
-
-void NavMaker::upDown(TextControl& thickness, int step) {
-    const double value = vb::CDbl(thickness.text());
-    if (step > 0 || value > 0)
-        thickness.setText(vb::CStr(value + step));
 }
 
 } // namespace zt

@@ -2,12 +2,11 @@
 
 #include "navgen.h"
 
-#include "builders/spinarrows.h"
-
 #include "platform/commondialog.h"
 #include "platform/engine/pageengine.h"
 #include "platform/form.h"
 #include "platform/textcontrol.h"
+#include "platform/updown.h"
 
 #include <memory>
 
@@ -37,9 +36,6 @@ public:
     // A colour button: the picker's colour into its field, or nothing for black or a
     // Cancel before any pick, so black cannot be chosen here.
     void pickColour(TextControl& field);
-    // An UpDown: up adds 1 without limit, down takes 1 only from a value above 0. A
-    // field that holds no number fails.
-    void upDown(TextControl& thickness, int step);
 
     struct Ui {
         explicit Ui(Pickers& pickers) : ComDlg(pickers) {}
@@ -58,7 +54,7 @@ public:
         QComboBox* cmbLinkBorderType = nullptr;
         TextControl txtLinkThickness;
         TextLineView* txtLinkThicknessView = nullptr;
-        SpinArrows UDLink;
+        UpDown UDLink;
         TextControl txtLinkColour;
         TextLineView* txtLinkColourView = nullptr;
         QPushButton* btnLinkColour = nullptr;
@@ -72,7 +68,7 @@ public:
         QComboBox* cmbLinkABorderType = nullptr;
         TextControl txtALinkThickness;
         TextLineView* txtALinkThicknessView = nullptr;
-        SpinArrows UDALink;
+        UpDown UDALink;
         TextControl txtALinkColour;
         TextLineView* txtALinkColourView = nullptr;
         QPushButton* btnALinkColour = nullptr;
@@ -86,7 +82,7 @@ public:
         QComboBox* cmbLinkHBorderType = nullptr;
         TextControl txtHLinkThickness;
         TextLineView* txtHLinkThicknessView = nullptr;
-        SpinArrows UDHLink;
+        UpDown UDHLink;
         TextControl txtHLinkColour;
         TextLineView* txtHLinkColourView = nullptr;
         QPushButton* btnHLinkColour = nullptr;
@@ -100,7 +96,7 @@ public:
         QComboBox* cmbLinkVBorderType = nullptr;
         TextControl txtVLinkThickness;
         TextLineView* txtVLinkThicknessView = nullptr;
-        SpinArrows UDVLink;
+        UpDown UDVLink;
         TextControl txtVLinkColour;
         TextLineView* txtVLinkColourView = nullptr;
         QPushButton* btnVLinkColour = nullptr;

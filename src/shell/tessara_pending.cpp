@@ -24,7 +24,6 @@ void Tessara::mnuMarquee() {}
 void Tessara::mnuInsLayer() {}
 void Tessara::mnuFlash() {}
 void Tessara::mnuStripHTML() {}
-void Tessara::mnuLayoutManager() {}
 void Tessara::mnuStyleSheet() {}
 void Tessara::mnuFTPClient() {}
 void Tessara::mnuFileViewer() {}

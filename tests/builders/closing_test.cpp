@@ -15,7 +15,7 @@ TEST(Closing, EveryFormOfTheProgramIsInTheListOrStays) {
         QStringLiteral("Zelvo Tessara frmHelp morvane MHelp Mwizard MeditHTML prewizard formForm "
                        "MformTextbox MformTextArea MformButton MformRadChk MformList MformFile "
                        "MformFieldset MformHidden restore crashRecover TempClip templates "
-                       "frmMoreTemp NavMaker NavListURLs")
+                       "frmMoreTemp NavMaker NavListURLs LManager LBoxProps LEditHTML LHelp")
             .split(' ');
     ASSERT_TRUE(formNames().contains("rule"));
     for (const QString& name : formNames()) {

@@ -4,10 +4,12 @@
 #include "platform/engine/pendinganswer.h"
 #include "platform/engine/webengine.h"
 #include "platform/guard.h"
+#include "support/testprogram.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QFile>
+#include <QTest>
 #include <QWebEnginePage>
 #include <QWebEngineScript>
 #include <QWebEngineView>
@@ -118,6 +120,26 @@ std::string bodyOf(PageEngine& engine) {
     return page.mid(start, page.lastIndexOf(QLatin1String("</BODY>")) - start)
         .trimmed()
         .toStdString();
+}
+
+std::unique_ptr<TestProgram> realProgram() {
+    auto program = std::make_unique<TestProgram>();
+    program->services.makeEngine = [clipboard = &program->clipboard](QWidget* parent) {
+        return std::make_unique<WebPageEngine>(*clipboard, parent);
+    };
+    return program;
+}
+
+QWidget* inputOf(PageEngine& engine) {
+    return engine.widget()->focusProxy();
+}
+
+void dragTo(QWidget* widget, QPoint from, QPoint to) {
+    QTest::mouseMove(widget, from);
+    QTest::mousePress(widget, Qt::LeftButton, {}, from);
+    QTest::mouseMove(widget, (from + to) / 2);
+    QTest::mouseMove(widget, to);
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
 }
 
 } // namespace zt::test

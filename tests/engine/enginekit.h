@@ -3,6 +3,7 @@
 #include "platform/engine/pageengine.h"
 #include "support/scripted.h"
 
+#include <QPoint>
 #include <QString>
 #include <QVariant>
 
@@ -15,6 +16,8 @@
 namespace zt {
 class WebPageEngine;
 }
+
+class QWidget;
 
 namespace zt::test {
 
@@ -74,5 +77,14 @@ QString pageWithMarker(const QString& body);
 // break that the real engine puts before </BODY>.
 void setBody(PageEngine& engine, const char* body);
 std::string bodyOf(PageEngine& engine);
+
+class TestProgram;
+// A scenario's program whose every engine is a real one.
+std::unique_ptr<TestProgram> realProgram();
+
+// The widget of an engine's view that takes the mouse and the keys.
+QWidget* inputOf(PageEngine& engine);
+// A press at from, two moves and the release at to, in widget's coordinates.
+void dragTo(QWidget* widget, QPoint from, QPoint to);
 
 } // namespace zt::test

@@ -23,18 +23,6 @@ using namespace zt::test;
 
 namespace {
 
-QWidget* input(PageEngine& engine) {
-    return engine.widget()->focusProxy();
-}
-
-void drag(QWidget* widget, QPoint from, QPoint to) {
-    QTest::mouseMove(widget, from);
-    QTest::mousePress(widget, Qt::LeftButton, {}, from);
-    QTest::mouseMove(widget, (from + to) / 2);
-    QTest::mouseMove(widget, to);
-    QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
-}
-
 // Builds a field by its dialog and drops it from the strip at a point of the work
 // area.
 template <class Dialog>
@@ -45,8 +33,8 @@ void addField(TestProgram& program, QToolButton* opener, const char* name, QPoin
     dialog.ui.txtName.setText(name);
     program.event([&] { dialog.ui.btnInsert->click(); });
     ASSERT_TRUE(eventually([&] { return m.ui.tagbar->documentHTML().contains(name); }));
-    QWidget* strip = input(*m.ui.tagbar);
-    drag(strip, {20, 15}, strip->mapFromGlobal(input(*m.ui.Result)->mapToGlobal(at)));
+    QWidget* strip = inputOf(*m.ui.tagbar);
+    dragTo(strip, {20, 15}, strip->mapFromGlobal(inputOf(*m.ui.Result)->mapToGlobal(at)));
     ASSERT_TRUE(eventually([&] {
         return m.ui.Result->documentHTML().contains(QString(R"(name="%1")").arg(name));
     })) << m.ui.Result->documentHTML().toStdString();
@@ -55,10 +43,7 @@ void addField(TestProgram& program, QToolButton* opener, const char* name, QPoin
 } // namespace
 
 TEST(FormDesigner, AFormDrawnByTheMouseEndsInTheViewThatOpenedTheDesigner) {
-    auto program = std::make_unique<TestProgram>();
-    program->services.makeEngine = [&](QWidget* parent) {
-        return std::make_unique<WebPageEngine>(program->clipboard, parent);
-    };
+    auto program = realProgram();
     Zelvo& zelvo = program->forms->get<Zelvo>();
     zelvo.ui.area.setText("<HTML><HEAD></HEAD><BODY><P>x</P></BODY></HTML>");
     program->event([&] { zelvo.mnuTessara(); });
@@ -75,9 +60,9 @@ TEST(FormDesigner, AFormDrawnByTheMouseEndsInTheViewThatOpenedTheDesigner) {
         addField<MformTextbox>(*program, m.ui.btnText, "q", {60, 50});
         addField<MformButton>(*program, m.ui.btnButton, "go", {60, 120});
         // The button is selected by a click and moved by a drag.
-        QWidget* work = input(*m.ui.Result);
+        QWidget* work = inputOf(*m.ui.Result);
         QTest::mouseClick(work, Qt::LeftButton, {}, {66, 125});
-        drag(work, {66, 125}, {96, 145});
+        dragTo(work, {66, 125}, {96, 145});
         const QString moved = R"(name="go" style="position: absolute; left: 81px; top: 131px;")";
         ASSERT_TRUE(eventually([&] { return m.ui.Result->documentHTML().contains(moved); }))
             << m.ui.Result->documentHTML().toStdString();

@@ -1,7 +1,6 @@
 // The two views of one document on the real page engine.
 #include "enginekit.h"
 
-#include "platform/engine/webengine.h"
 #include "shell/tessara.h"
 #include "shell/zelvo.h"
 #include "support/testprogram.h"
@@ -12,10 +11,7 @@ using namespace zt;
 using namespace zt::test;
 
 TEST(RealViews, PageTravelsBetweenTheViewsAndIsSavedWithTheProgramsGeneratorLine) {
-    auto program = std::make_unique<TestProgram>();
-    program->services.makeEngine = [&](QWidget* parent) {
-        return std::make_unique<WebPageEngine>(program->clipboard, parent);
-    };
+    auto program = realProgram();
     const auto zelvo = [&]() -> Zelvo& { return program->forms->get<Zelvo>(); };
     const auto tessara = [&]() -> Tessara& { return program->forms->get<Tessara>(); };
     const QString page =
