@@ -26,21 +26,8 @@ namespace {
 const QString kOnchange =
     R"~( onchange="location.href= (form.go.options[form.go.selectedIndex].value)">)~";
 
-} // namespace
-
-namespace {
-
 void click(BuilderViews& v, QAbstractButton* button) {
     v.run([&] { button->click(); });
-}
-
-// The shown window of a dialog, by its name.
-QWidget* shown(const char* name) {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == name && window->isVisible())
-            return window;
-    }
-    return nullptr;
 }
 
 PointControls& pointsOf(BuilderViews& v) {
@@ -65,9 +52,12 @@ QString selected(const QListWidget* list) {
         list->currentItem() && list->currentItem()->isSelected() ? list->currentRow() : -1);
 }
 
-const QString kNoPoint = "No point selected to remove|Assistant: Zelvo|48";
-const QString kNoUrl = "Valid URL was not entered|Assistant: Zelvo|48";
-const QString kAskUrl =
+const QString kWarn = "|Assistant: Zelvo|48";
+const QString kNoPoint = "No point selected to remove" + kWarn;
+const QString kNoUrl = "Valid URL was not entered" + kWarn;
+const QString kPickPoint =
+    "No point selected to remove. Please click on a point in the options list" + kWarn;
+const QString kAsk =
     "Enter the url/location to which the point has to be linked to|Enter address/URL|0";
 const QString kClear = "Are you sure you wish to clear the list?|Assistant: Zelvo|";
 
@@ -77,6 +67,7 @@ const QString kClear = "Are you sure you wish to clear the list?|Assistant: Zelv
 // row n, u d r c press Up, Down, Remove and Clear. The rows come out as
 // points/addresses, and the selected row of each list.
 TEST(PointLists, EditSequences) {
+    const auto drop = &Zelvo::mnuDropDown, links = &Zelvo::mnuListLinks;
     const struct {
         void (Zelvo::*open)();
         const char* edits;
@@ -85,33 +76,13 @@ TEST(PointLists, EditSequences) {
         const char *rows, *selected;
         QStringList asked;
     } cases[] = {
-        {&Zelvo::mnuDropDown, "+A +B +C #0 u #2 d #1 d #1 u", {}, {}, "C,A,B/", "0/", {}},
-        {&Zelvo::mnuDropDown, "+A + >B r #1 r", {}, {}, "A,B/", "-1/", {kNoPoint}},
-        {&Zelvo::mnuDropDown,
-         "u d +A c c",
-         {},
-         {vbNo, vbYes},
-         "/",
-         "-1/",
-         {kClear + "292", kClear + "292"}},
+        {drop, "+A +B +C #0 u #2 d #1 d #1 u", {}, {}, "C,A,B/", "0/", {}},
+        {drop, "+A + >B r #1 r", {}, {}, "A,B/", "-1/", {kNoPoint}},
+        {drop, "u d +A c c", {}, {vbNo, vbYes}, "/", "-1/", {kClear + "292", kClear + "292"}},
         {&Zelvo::mnuBullets, "+A >B #1 u c", {}, {}, "/", "-1/", {}},
-        {&Zelvo::mnuListLinks,
-         "+A +B +C #0 d",
-         {"a", "b", ""},
-         {},
-         "B,A/b,a",
-         "1/1",
-         {kAskUrl, kAskUrl, kAskUrl, kNoUrl}},
-        {&Zelvo::mnuListLinks,
-         ">A >B #1 u r r",
-         {"a", "b"},
-         {},
-         "A/a",
-         "-1/-1",
-         {kAskUrl, kAskUrl,
-          "No point selected to remove. Please click on a point in the options list|Assistant: "
-          "Zelvo|48"}},
-        {&Zelvo::mnuListLinks, "+A c", {"a"}, {vbYes}, "/", "-1/-1", {kAskUrl, kClear + "4"}},
+        {links, "+A +B +C #0 d", {"a", "b", ""}, {}, "B,A/b,a", "1/1", {kAsk, kAsk, kAsk, kNoUrl}},
+        {links, ">A >B #1 u r r", {"a", "b"}, {}, "A/a", "-1/-1", {kAsk, kAsk, kPickPoint}},
+        {links, "+A c", {"a"}, {vbYes}, "/", "-1/-1", {kAsk, kClear + "4"}},
     };
     for (const auto& c : cases) {
         BuilderViews v;
@@ -198,17 +169,10 @@ TEST(ListDialogs, FromEachViewByItsMenuTheFragmentGoesWhereTheCallerSaid) {
         v.run([&] { c.open(v); });
         QWidget* d = shown(c.dialog);
         ASSERT_TRUE(d) << c.dialog;
-        for (const QString& field : QString(c.fields).split(' ', Qt::SkipEmptyParts)) {
-            const QString name = field.section('=', 0, 0), value = field.section('=', 1);
-            if (name == "compOrEdit")
-                v.program.forms->get<bullets>().ui.compOrEdit.setText(value);
-            else if (auto* box = d->findChild<TextLineView*>(name))
-                box->control().setText(value);
-            else if (auto* combo = d->findChild<QComboBox*>(name))
-                combo->setCurrentText(value);
-            else
-                click(v, d->findChild<QAbstractButton*>(name));
-        }
+        QStringList fields = QString(c.fields).split(' ', Qt::SkipEmptyParts);
+        if (fields.removeOne("compOrEdit=comp"))
+            v.program.forms->get<bullets>().ui.compOrEdit.setText("comp");
+        fillIn(d, fields);
         for (const QString& point : QString(c.points).split(',', Qt::SkipEmptyParts)) {
             v.program.prompts.inputs.push_back(point.section('=', 1));
             pointsOf(v).txtPoints.setText(point.section('=', 0, 0));
