@@ -5,15 +5,9 @@
 #include "builders/rule.h"
 #include "help/frmhelp.h"
 
-#include "platform/textlineview.h"
-
 #include <QCheckBox>
-#include <QComboBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

@@ -11,18 +11,10 @@
 #include "help/frmhelp.h"
 #include "pagehelpers/jsconsole.h"
 
-#include "platform/texteditview.h"
-#include "platform/textlineview.h"
-
-#include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

@@ -9,15 +9,10 @@
 #include "pagehelpers/jsconsole.h"
 #include "support/failureof.h"
 
-#include "platform/textlineview.h"
-
 #include <QCheckBox>
-#include <QComboBox>
 #include <QImage>
 #include <QPushButton>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

@@ -7,12 +7,9 @@
 #include "builders/target.h"
 
 #include <QCheckBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

@@ -8,15 +8,8 @@
 #include "help/frmhelp.h"
 #include "pagehelpers/jsconsole.h"
 
-#include "platform/textlineview.h"
-
-#include <QApplication>
-#include <QComboBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

@@ -4,8 +4,6 @@
 #include "designer/mformlist.h"
 #include "designer/morvane.h"
 
-#include "platform/prompts.h"
-
 #include <QPushButton>
 #include <QToolButton>
 

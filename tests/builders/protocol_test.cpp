@@ -4,13 +4,9 @@
 #include "builders/rule.h"
 #include "pagehelpers/jsconsole.h"
 
-#include "platform/textlineview.h"
-
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

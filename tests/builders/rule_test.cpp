@@ -3,15 +3,9 @@
 #include "builders/rule.h"
 #include "builders/table.h"
 
-#include "platform/textlineview.h"
-
-#include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

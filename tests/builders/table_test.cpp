@@ -4,19 +4,13 @@
 #include "builders/table.h"
 #include "builders/vistbl.h"
 
-#include "platform/textlineview.h"
-
-#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

@@ -14,8 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-
 namespace zt::test {
 
 namespace {

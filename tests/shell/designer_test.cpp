@@ -7,11 +7,9 @@
 #include "designer/prewizard.h"
 
 #include "platform/engine/memoryengine.h"
-#include "platform/prompts.h"
 
 #include <QComboBox>
 #include <QDir>
-#include <QFile>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>

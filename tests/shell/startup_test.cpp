@@ -2,7 +2,6 @@
 
 #include "help/frmhelp.h"
 #include "platform/engine/memoryengine.h"
-#include "platform/runtimefailure.h"
 #include "platform/texteditview.h"
 #include "shell/frmsplash.h"
 #include "shell/optfunctions.h"
@@ -18,8 +17,6 @@
 #include <QSet>
 
 #include <gtest/gtest.h>
-
-#include <optional>
 
 using namespace zt;
 using namespace zt::test;

@@ -2,16 +2,11 @@
 #include "source/areafixture.h"
 #include "source/findme.h"
 
-#include "platform/texteditview.h"
-#include "platform/textlineview.h"
-
 #include <QAction>
 #include <QCheckBox>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

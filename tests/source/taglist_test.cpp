@@ -7,15 +7,10 @@
 #include "source/taglist.h"
 
 #include "platform/backcolor.h"
-#include "platform/texteditview.h"
 
-#include <QApplication>
-#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
