@@ -11,11 +11,7 @@
 using namespace zt;
 using namespace zt::test;
 
-namespace {
-
 const QString kLong(33000, u'x');
-
-} // namespace
 
 // Each row runs its commands in turn: s Smart Select, e Find End Tag, d Auto Delete,
 // f Find (F with Match Case) of typed, n Find Next of typed.
