@@ -142,8 +142,7 @@ TEST(ImageDialog, InsertsReopensAndSendsTheNextToTheConsole) {
     EXPECT_EQ(v.asked(), QStringList({"No image was selected", "Height or Width not specified"}));
     EXPECT_EQ(question(v.program, 1), "Height or Width not specified|Assistant: Zelvo|48");
 
-    d.ui.chkHPercentage->setChecked(true);
-    d.ui.txtWidth.setText("20");
+    fillIn(d.window(), {"chkHPercentage", "txtWidth=20"});
     // Up adds one, down stops at 0, an empty spacing counts as 0 first.
     for (QToolButton* spin : {d.ui.updBorder.up, d.ui.updBorder.up, d.ui.updBorder.down,
                               d.ui.updHSpace.down, d.ui.updHSpace.up})
@@ -151,8 +150,7 @@ TEST(ImageDialog, InsertsReopensAndSendsTheNextToTheConsole) {
     d.ui.txtVSpace.setText("");
     click(v, d.ui.updVSpace.down);
     EXPECT_EQ(d.ui.txtBorder.text() + d.ui.txtHSpace.text() + d.ui.txtVSpace.text(), "110");
-    d.ui.txtAlt.setText("A");
-    d.ui.cmbAlign->setCurrentText("Middle");
+    fillIn(d.window(), {"txtAlt=A", "cmbAlign=Middle"});
     click(v, d.ui.btnInsert);
     EXPECT_EQ(
         v.area().text(),

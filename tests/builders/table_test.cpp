@@ -99,10 +99,7 @@ TEST(TableDialog, FromEachViewByItsMenu) {
     v.zelvo.ui.mnuinstable->trigger();
     table& t = v.program.forms->get<table>();
     ASSERT_TRUE(t.isVisible());
-    t.ui.txtrow.setText("1");
-    t.ui.txtcelpad.setText("");
-    t.ui.cmbAlign->setCurrentText("Centre");
-    t.ui.chkAdvanced->click();
+    fillIn(t.window(), {"txtrow=1", "txtcelpad=", "cmbAlign=Centre", "chkAdvanced"});
     t.ui.cmbCaptionSide->setCurrentIndex(1);
     t.ui.chkAdvanced->click();
     EXPECT_FALSE(t.ui.frmAdvanced->isVisible());
