@@ -32,6 +32,11 @@ struct BuilderViews : Views {
         area().setSelLength(text.size());
     }
 
+    // Clicks a button as the user would, through the program's event guard.
+    void click(QAbstractButton* button) {
+        run([&] { button->click(); });
+    }
+
     // Runs Tessara's insertion tick, as the timer would after a dialog delivered.
     void tick() { tessara.ui.Timer1.fire(); }
 

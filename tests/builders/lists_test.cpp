@@ -19,10 +19,6 @@ namespace {
 const QString kOnchange =
     R"~( onchange="location.href= (form.go.options[form.go.selectedIndex].value)">)~";
 
-void click(BuilderViews& v, QAbstractButton* button) {
-    v.run([&] { button->click(); });
-}
-
 PointControls& pointsOf(BuilderViews& v) {
     if (v.loaded<formList>())
         return v.program.forms->get<formList>().ui;
@@ -87,17 +83,17 @@ TEST(PointLists, EditSequences) {
             const QString rest = edit.mid(1);
             if (edit[0] == '+') {
                 ui.txtPoints.setText(rest);
-                click(v, ui.btnAdd);
+                v.click(ui.btnAdd);
             } else if (edit[0] == '>') {
                 type(ui.txtPointsView, rest);
                 v.run([&] { press(ui.txtPointsView, Qt::Key_Return); });
             } else if (edit[0] == '#') {
                 ui.listPoints->setCurrentRow(rest.toInt());
             } else {
-                click(v, edit == "u"   ? ui.btnUp
-                         : edit == "d" ? ui.btnDown
-                         : edit == "r" ? ui.btnRemove
-                                       : ui.btnClear);
+                v.click(edit == "u"   ? ui.btnUp
+                        : edit == "d" ? ui.btnDown
+                        : edit == "r" ? ui.btnRemove
+                                      : ui.btnClear);
             }
         }
         EXPECT_EQ(rows(ui.listPoints) + '/' + rows(ui.listURL), c.rows) << c.edits;
@@ -169,13 +165,13 @@ TEST(ListDialogs, FromEachViewByItsMenuTheFragmentGoesWhereTheCallerSaid) {
         for (const QString& point : QString(c.points).split(',', Qt::SkipEmptyParts)) {
             v.program.prompts.inputs.push_back(point.section('=', 1));
             pointsOf(v).txtPoints.setText(point.section('=', 0, 0));
-            click(v, pointsOf(v).btnAdd);
+            v.click(pointsOf(v).btnAdd);
         }
-        click(v, d->findChild<QPushButton*>("btnHelp"));
+        v.click(d->findChild<QPushButton*>("btnHelp"));
         EXPECT_FALSE(v.program.forms->get<frmHelp>().ui.txtHelp.text().isEmpty()) << c.dialog;
 
         auto* ok = d->findChild<QPushButton*>("OKButton");
-        click(v, ok ? ok : d->findChild<QPushButton*>("btnInsert"));
+        v.click(ok ? ok : d->findChild<QPushButton*>("btnInsert"));
         const QString source = c.toPage ? "one" : c.fragment;
         EXPECT_EQ(v.area().text(), source + " two three") << c.dialog;
         if (v.tessara.ui.Timer1.enabled())
@@ -205,11 +201,11 @@ TEST(ListDialogs, OpenersMissingNamesTheKeptCallerAndTheConsole) {
     }
 
     v.run([&] { v.zelvo.mnuiForm(); });
-    click(v, v.program.forms->get<formForm>().ui.OKButton);
+    v.click(v.program.forms->get<formForm>().ui.OKButton);
     v.run([&] { v.zelvo.mnuDropDown(); });
-    click(v, v.program.forms->get<formList>().ui.OKButton);
+    v.click(v.program.forms->get<formList>().ui.OKButton);
     v.run([&] { v.zelvo.mnuListLinks(); });
-    click(v, v.program.forms->get<ListURLs>().ui.btnInsert);
+    v.click(v.program.forms->get<ListURLs>().ui.btnInsert);
     EXPECT_EQ(question(v.program, 0), "Please enter a valid name|Field Missing|48");
     EXPECT_EQ(question(v.program, 1), "A valid name has not been entered|Assistant: Zelvo|48");
     EXPECT_EQ(question(v.program, 2), question(v.program, 1));
@@ -221,7 +217,7 @@ TEST(ListDialogs, OpenersMissingNamesTheKeptCallerAndTheConsole) {
     for (const char* mode : {"jsc", "x"}) {
         formForm& f = dialogFor<formForm>(*v.program.forms, mode);
         f.ui.txtName.setText("f");
-        click(v, f.ui.OKButton);
+        v.click(f.ui.OKButton);
         v.settle();
     }
     EXPECT_EQ(
