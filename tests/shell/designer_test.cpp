@@ -1,4 +1,4 @@
-#include "views.h"
+#include "builders/builderkit.h"
 
 #include "designer/bodyof.h"
 #include "designer/medithtml.h"
@@ -35,11 +35,9 @@ const QString kBox = QStringLiteral(
     "<div id=\"MorvaneForm\" style=\"position:relative;left:0px;top:0px;width:400px;"
     "height:300px;background-color:#FFFFFF;color:#000000;border-width:1;border-style:solid;\">");
 
-struct Designer : Views {
+struct Designer : BuilderViews {
     morvane& m = program.forms->get<morvane>();
     PageEngine& Result() { return *m.ui.Result; }
-    template <class F> bool loaded() const { return program.forms->isLoaded<F>(); }
-    void settle() { program.forms->collectUnloaded(); }
     QByteArray bytes(const QString& path) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
@@ -223,13 +221,9 @@ TEST(Designer, GenerateEndsInTheViewThatOpenedTheDesigner) {
     EXPECT_TRUE(pre.isVisible() && d.m.isVisible());
     pre.ui.OKButton->click();
     EXPECT_EQ(question(d.program), "Please fill in the required fields|Morvane|64");
-    const auto fillIn = [](prewizard& wizard) {
-        wizard.ui.txtFormName.setText("f");
-        wizard.ui.txtFormAction.setText("go.cgi");
-        wizard.ui.cmbAction->setCurrentText("get");
-        wizard.ui.OKButton->click();
-    };
-    fillIn(pre);
+    const QStringList fields = {"txtFormName=f", "txtFormAction=go.cgi", "cmbAction=get",
+                                "OKButton"};
+    fillIn(pre.window(), fields);
     const QString code = "<!-- Form Code by Morvane: By Orvek -->\r\n<br><form name=\"f\" "
                          "method=\"get\" action=\"go.cgi\">\r\n" +
                          kBox + "\r\n\r\n</form><br>\r\n<!-- End of form -->";
@@ -241,7 +235,7 @@ TEST(Designer, GenerateEndsInTheViewThatOpenedTheDesigner) {
     static_cast<MemoryEngine&>(d.txtComp()).setSelection(0, 0);
     d.run([&] { d.tessara.mnuMorvane(); });
     d.m.ui.btnGenerate->click();
-    fillIn(d.program.forms->get<prewizard>());
+    fillIn(d.program.forms->get<prewizard>().window(), fields);
     EXPECT_FALSE(d.txtComp().documentHTML().contains("Form Code"));
     d.tessara.ui.Timer1.fire();
     EXPECT_TRUE(d.txtComp().documentHTML().contains(code));
