@@ -74,6 +74,14 @@ inline QWidget* shown(const QString& name) {
     return nullptr;
 }
 
+// The rows of a list box, top to bottom; none without a list.
+inline QStringList rowsOf(const QListWidget* list) {
+    QStringList rows;
+    for (int i = 0; list && i < list->count(); ++i)
+        rows << list->item(i)->text();
+    return rows;
+}
+
 // Fills in a dialog's window: "name=text" types into a text box or a combo, or picks
 // a list's row by number; a bare name clicks that box or button.
 inline void fillIn(QWidget* window, const QStringList& entries) {

@@ -27,13 +27,6 @@ PointControls& pointsOf(BuilderViews& v) {
     return v.program.forms->get<ListURLs>().ui;
 }
 
-QString rows(const QListWidget* list) {
-    QStringList all;
-    for (int i = 0; list && i < list->count(); ++i)
-        all << list->item(i)->text();
-    return all.join(',');
-}
-
 QString selected(const QListWidget* list) {
     if (!list)
         return {};
@@ -96,7 +89,8 @@ TEST(PointLists, EditSequences) {
                                       : ui.btnClear);
             }
         }
-        EXPECT_EQ(rows(ui.listPoints) + '/' + rows(ui.listURL), c.rows) << c.edits;
+        EXPECT_EQ(rowsOf(ui.listPoints).join(',') + '/' + rowsOf(ui.listURL).join(','), c.rows)
+            << c.edits;
         EXPECT_EQ(selected(ui.listPoints) + '/' + selected(ui.listURL), c.selected) << c.edits;
         QStringList asked;
         for (int i = 0; i < int(v.program.prompts.asked.size()); ++i)

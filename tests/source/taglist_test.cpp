@@ -25,12 +25,7 @@ struct TagListView : BuilderViews {
         selectInArea("x");
     }
     QListWidget& list() { return *zelvo.ui.lstAllTags; }
-    QStringList lines() {
-        QStringList all;
-        for (int i = 0; i < list().count(); ++i)
-            all << list().item(i)->text();
-        return all;
-    }
+    QStringList lines() { return rowsOf(&list()); }
     QString selected() { return list().currentItem() ? list().currentItem()->text() : "(none)"; }
     // The user's double click on the first line that reads line.
     void doubleClick(const QString& line) {
