@@ -32,6 +32,11 @@ struct BuilderViews : Views {
         area().setSelLength(text.size());
     }
 
+    // Clicks a button as the user would, through the program's event guard.
+    void click(QAbstractButton* button) {
+        run([&] { button->click(); });
+    }
+
     // Runs Tessara's insertion tick, as the timer would after a dialog delivered.
     void tick() { tessara.ui.Timer1.fire(); }
 
@@ -67,6 +72,14 @@ inline QWidget* shown(const QString& name) {
         if (top->isVisible() && (top->objectName() == name || top->windowTitle() == name))
             return top;
     return nullptr;
+}
+
+// The rows of a list box, top to bottom; none without a list.
+inline QStringList rowsOf(const QListWidget* list) {
+    QStringList rows;
+    for (int i = 0; list && i < list->count(); ++i)
+        rows << list->item(i)->text();
+    return rows;
 }
 
 // Fills in a dialog's window: "name=text" types into a text box or a combo, or picks

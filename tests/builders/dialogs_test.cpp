@@ -5,15 +5,9 @@
 #include "builders/rule.h"
 #include "help/frmhelp.h"
 
-#include "platform/textlineview.h"
-
 #include <QCheckBox>
-#include <QComboBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -32,13 +26,9 @@ TEST(ElementDialogs, FromEachViewTheFragmentGoesWhereTheCallerSaid) {
          [](BuilderViews& v) -> ElementDialog& {
              rule& d = v.program.forms->get<rule>();
              v.selectInArea("three");
-             d.ui.txtWidth.setText("50");
-             d.ui.chkPercentage->setChecked(true);
-             d.ui.cmbAlign->setCurrentText("Right");
-             d.ui.chkShade->setChecked(true);
-             d.ui.txtSize.setText("3");
-             d.ui.txtColour.setText("red");
-             return v.program.forms->get<rule>();
+             fillIn(d.window(), {"txtWidth=50", "chkPercentage", "cmbAlign=Right", "chkShade",
+                                 "txtSize=3", "txtColour=red"});
+             return d;
          },
          "Insert Horizontal Rule : Zelvo", "INSERT HORIZONTAL RULE",
          R"(one two <HR width="50%" align="Right" color="red" size="3" NOSHADE>)", "one two three"},

@@ -11,18 +11,10 @@
 #include "help/frmhelp.h"
 #include "pagehelpers/jsconsole.h"
 
-#include "platform/texteditview.h"
-#include "platform/textlineview.h"
-
-#include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -33,16 +25,12 @@ template <class D> D& form(BuilderViews& v) {
     return v.program.forms->get<D>();
 }
 
-template <class D> D& opened(BuilderViews& v, const QString& callerMode) {
-    return dialogFor<D>(*v.program.forms, callerMode);
-}
-
 // Opens D for the caller with the name filled in and, where given, the kind set.
 template <class D>
 std::function<ElementDialog&(BuilderViews&, const QString&)>
 named(const char* name, QRadioButton* D::Ui::*kind = nullptr) {
     return [=](BuilderViews& v, const QString& callerMode) -> ElementDialog& {
-        D& d = opened<D>(v, callerMode);
+        D& d = dialogFor<D>(*v.program.forms, callerMode);
         if constexpr (requires { d.ui.txtName; })
             d.ui.txtName.setText(name);
         if (kind)
@@ -260,13 +248,9 @@ TEST(FieldDialogs, NumberFieldsAndFreeFields) {
         {"formTextbox", "txtTab", "a", "a"},
     };
     BuilderViews v;
-    v.run([&] {
-        v.zelvo.mnuTextArea();
-        v.zelvo.mnuButton();
-        v.zelvo.mnuFileUpload();
-        v.zelvo.mnuRadio();
-        v.zelvo.mnuTextBox();
-    });
+    for (auto open : {&Zelvo::mnuTextArea, &Zelvo::mnuButton, &Zelvo::mnuFileUpload,
+                      &Zelvo::mnuRadio, &Zelvo::mnuTextBox})
+        v.run([&] { (v.zelvo.*open)(); });
     for (const auto& c : cases) {
         v.program.prompts.asked.clear();
         auto* view = shown(c.dialog)->findChild<TextLineView*>(c.field);

@@ -9,15 +9,10 @@
 #include "pagehelpers/jsconsole.h"
 #include "support/failureof.h"
 
-#include "platform/textlineview.h"
-
 #include <QCheckBox>
-#include <QComboBox>
 #include <QImage>
 #include <QPushButton>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -110,10 +105,6 @@ TEST(ImagePreview, ASourceIsLookedForBesideTheDocument) {
 
 namespace {
 
-void click(BuilderViews& v, QAbstractButton* button) {
-    v.run([&] { button->click(); });
-}
-
 frmImage& image(BuilderViews& v) {
     return v.program.forms->get<frmImage>();
 }
@@ -131,34 +122,32 @@ TEST(ImageDialog, InsertsReopensAndSendsTheNextToTheConsole) {
     v.run([&] { v.zelvo.mnuImage(); });
     frmImage& d = image(v);
     EXPECT_EQ(d.caption(), "Image : Zelvo");
-    click(v, d.ui.btnHelp);
+    v.click(d.ui.btnHelp);
     EXPECT_TRUE(v.program.forms->get<frmHelp>().ui.txtHelp.text().startsWith("INSERT IMAGE"));
     EXPECT_FALSE(d.ui.txtHeightView->isEnabled());
 
-    click(v, d.ui.btnInsert);
+    v.click(d.ui.btnInsert);
     d.ui.txtSource.setText("nothing.png");
     EXPECT_FALSE(d.ui.imgPreview->showsPicture());
     d.ui.txtSource.setText("pic.png");
     EXPECT_TRUE(d.ui.imgPreview->showsPicture());
-    click(v, d.ui.chkDimensions);
+    v.click(d.ui.chkDimensions);
     EXPECT_TRUE(d.ui.chkWPercentage->isEnabled());
     d.ui.txtHeight.setText("50");
-    click(v, d.ui.btnInsert);
+    v.click(d.ui.btnInsert);
     EXPECT_EQ(v.asked(), QStringList({"No image was selected", "Height or Width not specified"}));
     EXPECT_EQ(question(v.program, 1), "Height or Width not specified|Assistant: Zelvo|48");
 
-    d.ui.chkHPercentage->setChecked(true);
-    d.ui.txtWidth.setText("20");
+    fillIn(d.window(), {"chkHPercentage", "txtWidth=20"});
     // Up adds one, down stops at 0, an empty spacing counts as 0 first.
     for (QToolButton* spin : {d.ui.updBorder.up, d.ui.updBorder.up, d.ui.updBorder.down,
                               d.ui.updHSpace.down, d.ui.updHSpace.up})
-        click(v, spin);
+        v.click(spin);
     d.ui.txtVSpace.setText("");
-    click(v, d.ui.updVSpace.down);
+    v.click(d.ui.updVSpace.down);
     EXPECT_EQ(d.ui.txtBorder.text() + d.ui.txtHSpace.text() + d.ui.txtVSpace.text(), "110");
-    d.ui.txtAlt.setText("A");
-    d.ui.cmbAlign->setCurrentText("Middle");
-    click(v, d.ui.btnInsert);
+    fillIn(d.window(), {"txtAlt=A", "cmbAlign=Middle"});
+    v.click(d.ui.btnInsert);
     EXPECT_EQ(
         v.area().text(),
         R"(one <IMG src="pic.png" align="Middle" Border="1" height="50%" width="20" alt="A"> three)");
@@ -168,11 +157,11 @@ TEST(ImageDialog, InsertsReopensAndSendsTheNextToTheConsole) {
     EXPECT_EQ(again.ui.compOrEdit.text() + again.ui.txtSource.text() + again.ui.txtBorder.text(),
               "0");
     again.ui.txtSource.setText("b.png");
-    click(v, again.ui.btnInsert);
+    v.click(again.ui.btnInsert);
     EXPECT_EQ(v.program.forms->get<JSConsole>().ui.theCode.text(),
               R"(<IMG src="b.png" align="Left" Border="0" )");
     EXPECT_TRUE(v.area().text().endsWith("> three"));
-    click(v, image(v).ui.btnClose);
+    v.click(image(v).ui.btnClose);
     EXPECT_FALSE(v.loaded<frmImage>());
     EXPECT_EQ(failure(v.program), 0);
 }
@@ -187,17 +176,17 @@ TEST(ImageDialog, FromTheConsoleBrowseAndAnEmptySpacing) {
     v.program.pickers.files = {"/srv/pics/c.jpg", std::nullopt};
     v.run([&] { dialogFor<frmImage>(*v.program.forms, caller::kConsole).show(); });
     frmImage& d = image(v);
-    click(v, d.ui.btnSource);
+    v.click(d.ui.btnSource);
     EXPECT_EQ(v.program.pickers.asked.at(0).file.filter.section('|', 0, 0), "JPEG Files (*.jpg)");
-    click(v, d.ui.btnSource);
+    v.click(d.ui.btnSource);
     EXPECT_EQ(d.ui.txtSource.text(), "/srv/pics/c.jpg");
     EXPECT_TRUE(d.ui.comdlg.fileName.isEmpty());
-    click(v, d.ui.btnInsert);
+    v.click(d.ui.btnInsert);
     EXPECT_EQ(code.text(), R"(<p><IMG src="/srv/pics/c.jpg" align="Left" Border="0" </p>)");
 
     image(v).ui.txtSource.setText("x.gif");
     image(v).ui.txtHSpace.setText("");
-    click(v, image(v).ui.btnInsert);
+    v.click(image(v).ui.btnInsert);
     EXPECT_EQ(failure(v.program), 13);
     EXPECT_EQ(code.text().count("<IMG"), 1);
 }
@@ -212,18 +201,18 @@ TEST(RolloverDialog, RewritesTheSelectedPage) {
     v.run([&] { v.zelvo.mnuRollImage(); });
     rollover& d = v.program.forms->get<rollover>();
     EXPECT_EQ(d.caption(), "Insert Rollover Images : Zelvo");
-    click(v, d.ui.insert);
+    v.click(d.ui.insert);
     EXPECT_EQ(question(v.program), "One or more required fields missing|Assistant: Zelvo|48");
 
     d.ui.txtNameView->setFocus();
     type(d.ui.txtNameView, "my pic");
     EXPECT_EQ(d.ui.txtName.text(), "mypic");
     v.program.pickers.files = {"/srv/a.gif", std::nullopt};
-    click(v, d.ui.btnBrowseFirst);
-    click(v, d.ui.btnBrowseSecond);
+    v.click(d.ui.btnBrowseFirst);
+    v.click(d.ui.btnBrowseSecond);
     EXPECT_EQ(d.ui.txtSecondImage.text(), "/srv/a.gif");
     d.ui.txtSecondImage.setText("b.gif");
-    click(v, d.ui.insert);
+    v.click(d.ui.insert);
     EXPECT_FALSE(v.loaded<rollover>());
     // The generator itself is pinned by its own table.
     EXPECT_EQ(

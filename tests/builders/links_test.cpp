@@ -7,12 +7,9 @@
 #include "builders/target.h"
 
 #include <QCheckBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -128,8 +125,7 @@ TEST(Links, AnotherAddressOfMineDisablesTheRelationshipAndMailTakesOver) {
     EXPECT_EQ(m.ui.txtTextToDisp.text() + m.ui.txtScreentip.text(), "xWrite");
     v.run([&] { m.ui.OKButton->click(); });
     EXPECT_EQ(v.asked(), QStringList{"The E-Mail address has not been mentioned"});
-    m.ui.txtLink.setText("me@x.org");
-    m.ui.txtSubject.setText("Hi there");
+    fillIn(m.window(), {"txtLink=me@x.org", "txtSubject=Hi there"});
     v.run([&] { m.ui.OKButton->click(); });
     EXPECT_EQ(v.area().text(), R"(<A href="mailto:me@x.org?subject=Hi there" TITLE="Write">x</A>)");
 }

@@ -8,15 +8,8 @@
 #include "help/frmhelp.h"
 #include "pagehelpers/jsconsole.h"
 
-#include "platform/textlineview.h"
-
-#include <QApplication>
-#include <QComboBox>
-#include <QListWidget>
 #include <QPushButton>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -26,36 +19,12 @@ namespace {
 const QString kOnchange =
     R"~( onchange="location.href= (form.go.options[form.go.selectedIndex].value)">)~";
 
-} // namespace
-
-namespace {
-
-void click(BuilderViews& v, QAbstractButton* button) {
-    v.run([&] { button->click(); });
-}
-
-// The shown window of a dialog, by its name.
-QWidget* shown(const char* name) {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == name && window->isVisible())
-            return window;
-    }
-    return nullptr;
-}
-
 PointControls& pointsOf(BuilderViews& v) {
     if (v.loaded<formList>())
         return v.program.forms->get<formList>().ui;
     if (v.loaded<bullets>())
         return v.program.forms->get<bullets>().ui;
     return v.program.forms->get<ListURLs>().ui;
-}
-
-QString rows(const QListWidget* list) {
-    QStringList all;
-    for (int i = 0; list && i < list->count(); ++i)
-        all << list->item(i)->text();
-    return all.join(',');
 }
 
 QString selected(const QListWidget* list) {
@@ -65,9 +34,12 @@ QString selected(const QListWidget* list) {
         list->currentItem() && list->currentItem()->isSelected() ? list->currentRow() : -1);
 }
 
-const QString kNoPoint = "No point selected to remove|Assistant: Zelvo|48";
-const QString kNoUrl = "Valid URL was not entered|Assistant: Zelvo|48";
-const QString kAskUrl =
+const QString kWarn = "|Assistant: Zelvo|48";
+const QString kNoPoint = "No point selected to remove" + kWarn;
+const QString kNoUrl = "Valid URL was not entered" + kWarn;
+const QString kPickPoint =
+    "No point selected to remove. Please click on a point in the options list" + kWarn;
+const QString kAsk =
     "Enter the url/location to which the point has to be linked to|Enter address/URL|0";
 const QString kClear = "Are you sure you wish to clear the list?|Assistant: Zelvo|";
 
@@ -77,6 +49,7 @@ const QString kClear = "Are you sure you wish to clear the list?|Assistant: Zelv
 // row n, u d r c press Up, Down, Remove and Clear. The rows come out as
 // points/addresses, and the selected row of each list.
 TEST(PointLists, EditSequences) {
+    const auto drop = &Zelvo::mnuDropDown, links = &Zelvo::mnuListLinks;
     const struct {
         void (Zelvo::*open)();
         const char* edits;
@@ -85,33 +58,13 @@ TEST(PointLists, EditSequences) {
         const char *rows, *selected;
         QStringList asked;
     } cases[] = {
-        {&Zelvo::mnuDropDown, "+A +B +C #0 u #2 d #1 d #1 u", {}, {}, "C,A,B/", "0/", {}},
-        {&Zelvo::mnuDropDown, "+A + >B r #1 r", {}, {}, "A,B/", "-1/", {kNoPoint}},
-        {&Zelvo::mnuDropDown,
-         "u d +A c c",
-         {},
-         {vbNo, vbYes},
-         "/",
-         "-1/",
-         {kClear + "292", kClear + "292"}},
+        {drop, "+A +B +C #0 u #2 d #1 d #1 u", {}, {}, "C,A,B/", "0/", {}},
+        {drop, "+A + >B r #1 r", {}, {}, "A,B/", "-1/", {kNoPoint}},
+        {drop, "u d +A c c", {}, {vbNo, vbYes}, "/", "-1/", {kClear + "292", kClear + "292"}},
         {&Zelvo::mnuBullets, "+A >B #1 u c", {}, {}, "/", "-1/", {}},
-        {&Zelvo::mnuListLinks,
-         "+A +B +C #0 d",
-         {"a", "b", ""},
-         {},
-         "B,A/b,a",
-         "1/1",
-         {kAskUrl, kAskUrl, kAskUrl, kNoUrl}},
-        {&Zelvo::mnuListLinks,
-         ">A >B #1 u r r",
-         {"a", "b"},
-         {},
-         "A/a",
-         "-1/-1",
-         {kAskUrl, kAskUrl,
-          "No point selected to remove. Please click on a point in the options list|Assistant: "
-          "Zelvo|48"}},
-        {&Zelvo::mnuListLinks, "+A c", {"a"}, {vbYes}, "/", "-1/-1", {kAskUrl, kClear + "4"}},
+        {links, "+A +B +C #0 d", {"a", "b", ""}, {}, "B,A/b,a", "1/1", {kAsk, kAsk, kAsk, kNoUrl}},
+        {links, ">A >B #1 u r r", {"a", "b"}, {}, "A/a", "-1/-1", {kAsk, kAsk, kPickPoint}},
+        {links, "+A c", {"a"}, {vbYes}, "/", "-1/-1", {kAsk, kClear + "4"}},
     };
     for (const auto& c : cases) {
         BuilderViews v;
@@ -123,20 +76,21 @@ TEST(PointLists, EditSequences) {
             const QString rest = edit.mid(1);
             if (edit[0] == '+') {
                 ui.txtPoints.setText(rest);
-                click(v, ui.btnAdd);
+                v.click(ui.btnAdd);
             } else if (edit[0] == '>') {
                 type(ui.txtPointsView, rest);
                 v.run([&] { press(ui.txtPointsView, Qt::Key_Return); });
             } else if (edit[0] == '#') {
                 ui.listPoints->setCurrentRow(rest.toInt());
             } else {
-                click(v, edit == "u"   ? ui.btnUp
-                         : edit == "d" ? ui.btnDown
-                         : edit == "r" ? ui.btnRemove
-                                       : ui.btnClear);
+                v.click(edit == "u"   ? ui.btnUp
+                        : edit == "d" ? ui.btnDown
+                        : edit == "r" ? ui.btnRemove
+                                      : ui.btnClear);
             }
         }
-        EXPECT_EQ(rows(ui.listPoints) + '/' + rows(ui.listURL), c.rows) << c.edits;
+        EXPECT_EQ(rowsOf(ui.listPoints).join(',') + '/' + rowsOf(ui.listURL).join(','), c.rows)
+            << c.edits;
         EXPECT_EQ(selected(ui.listPoints) + '/' + selected(ui.listURL), c.selected) << c.edits;
         QStringList asked;
         for (int i = 0; i < int(v.program.prompts.asked.size()); ++i)
@@ -198,27 +152,20 @@ TEST(ListDialogs, FromEachViewByItsMenuTheFragmentGoesWhereTheCallerSaid) {
         v.run([&] { c.open(v); });
         QWidget* d = shown(c.dialog);
         ASSERT_TRUE(d) << c.dialog;
-        for (const QString& field : QString(c.fields).split(' ', Qt::SkipEmptyParts)) {
-            const QString name = field.section('=', 0, 0), value = field.section('=', 1);
-            if (name == "compOrEdit")
-                v.program.forms->get<bullets>().ui.compOrEdit.setText(value);
-            else if (auto* box = d->findChild<TextLineView*>(name))
-                box->control().setText(value);
-            else if (auto* combo = d->findChild<QComboBox*>(name))
-                combo->setCurrentText(value);
-            else
-                click(v, d->findChild<QAbstractButton*>(name));
-        }
+        QStringList fields = QString(c.fields).split(' ', Qt::SkipEmptyParts);
+        if (fields.removeOne("compOrEdit=comp"))
+            v.program.forms->get<bullets>().ui.compOrEdit.setText("comp");
+        fillIn(d, fields);
         for (const QString& point : QString(c.points).split(',', Qt::SkipEmptyParts)) {
             v.program.prompts.inputs.push_back(point.section('=', 1));
             pointsOf(v).txtPoints.setText(point.section('=', 0, 0));
-            click(v, pointsOf(v).btnAdd);
+            v.click(pointsOf(v).btnAdd);
         }
-        click(v, d->findChild<QPushButton*>("btnHelp"));
+        v.click(d->findChild<QPushButton*>("btnHelp"));
         EXPECT_FALSE(v.program.forms->get<frmHelp>().ui.txtHelp.text().isEmpty()) << c.dialog;
 
         auto* ok = d->findChild<QPushButton*>("OKButton");
-        click(v, ok ? ok : d->findChild<QPushButton*>("btnInsert"));
+        v.click(ok ? ok : d->findChild<QPushButton*>("btnInsert"));
         const QString source = c.toPage ? "one" : c.fragment;
         EXPECT_EQ(v.area().text(), source + " two three") << c.dialog;
         if (v.tessara.ui.Timer1.enabled())
@@ -248,11 +195,11 @@ TEST(ListDialogs, OpenersMissingNamesTheKeptCallerAndTheConsole) {
     }
 
     v.run([&] { v.zelvo.mnuiForm(); });
-    click(v, v.program.forms->get<formForm>().ui.OKButton);
+    v.click(v.program.forms->get<formForm>().ui.OKButton);
     v.run([&] { v.zelvo.mnuDropDown(); });
-    click(v, v.program.forms->get<formList>().ui.OKButton);
+    v.click(v.program.forms->get<formList>().ui.OKButton);
     v.run([&] { v.zelvo.mnuListLinks(); });
-    click(v, v.program.forms->get<ListURLs>().ui.btnInsert);
+    v.click(v.program.forms->get<ListURLs>().ui.btnInsert);
     EXPECT_EQ(question(v.program, 0), "Please enter a valid name|Field Missing|48");
     EXPECT_EQ(question(v.program, 1), "A valid name has not been entered|Assistant: Zelvo|48");
     EXPECT_EQ(question(v.program, 2), question(v.program, 1));
@@ -264,7 +211,7 @@ TEST(ListDialogs, OpenersMissingNamesTheKeptCallerAndTheConsole) {
     for (const char* mode : {"jsc", "x"}) {
         formForm& f = dialogFor<formForm>(*v.program.forms, mode);
         f.ui.txtName.setText("f");
-        click(v, f.ui.OKButton);
+        v.click(f.ui.OKButton);
         v.settle();
     }
     EXPECT_EQ(

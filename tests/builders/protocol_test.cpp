@@ -4,13 +4,9 @@
 #include "builders/rule.h"
 #include "pagehelpers/jsconsole.h"
 
-#include "platform/textlineview.h"
-
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -112,8 +108,7 @@ TEST(Protocol, ARequiredFieldLeftEmptyIsWarnedOfAndKeepsTheDialog) {
     v.run([&] { dialog.show(); });
     v.run([&] { dialog.ui.OKButton->click(); });
     ASSERT_EQ(v.asked(), QStringList{"A valid name was not found"});
-    EXPECT_EQ(v.program.prompts.asked[0].title, "Assistant: Zelvo");
-    EXPECT_EQ(v.program.prompts.asked[0].style, vbExclamation);
+    EXPECT_EQ(question(v.program), "A valid name was not found|Assistant: Zelvo|48");
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(dialog.window()->focusWidget(), dialog.ui.txtNameView);
     EXPECT_EQ(v.area().text(), "");

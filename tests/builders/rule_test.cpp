@@ -3,15 +3,9 @@
 #include "builders/rule.h"
 #include "builders/table.h"
 
-#include "platform/textlineview.h"
-
-#include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -76,13 +70,8 @@ TEST(Rule, RememberedValuesAreWrittenButNeverRestored) {
     BuilderViews v;
     v.run([&] { v.tessara.mnuRule(); });
     rule* dialog = &v.program.forms->get<rule>();
-    dialog->ui.txtWidth.setText("75");
-    dialog->ui.chkPercentage->setChecked(true);
-    dialog->ui.txtSize.setText("5");
-    dialog->ui.chkShade->setChecked(true);
-    dialog->ui.cmbAlign->setCurrentText("Left");
-    dialog->ui.txtColour.setText("#00FF00");
-    dialog->ui.chkRemember->setChecked(true);
+    fillIn(dialog->window(), {"txtWidth=75", "chkPercentage", "txtSize=5", "chkShade",
+                              "cmbAlign=Left", "txtColour=#00FF00", "chkRemember"});
     v.run([&] { dialog->ui.OKButton->click(); });
     v.settle();
     EXPECT_EQ(v.area().text(), "") << "the visual view's dialog sends to the page";

@@ -4,19 +4,13 @@
 #include "builders/table.h"
 #include "builders/vistbl.h"
 
-#include "platform/textlineview.h"
-
-#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -34,6 +28,21 @@ QString fieldsOf(const table& t) {
                        on(t.ui.chkwidth),      on(t.ui.radpixels),    on(t.ui.radpercentage),
                        on(t.ui.chkRemember)}
         .join('|');
+}
+
+void moveOver(QWidget* widget) {
+    QMouseEvent move(QEvent::MouseMove, QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)),
+                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &move);
+}
+
+void clickOn(QWidget* widget) {
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &event);
+    }
 }
 
 } // namespace
@@ -81,25 +90,6 @@ TEST(TableLoad, ARestoredClearWidthBoxDisablesTheWidthAndANonNumberIsRefused) {
     EXPECT_TRUE(t.ui.txtWidthView->isEnabled() && t.ui.radpixels->isEnabled());
 }
 
-namespace {
-
-void moveOver(QWidget* widget) {
-    QMouseEvent move(QEvent::MouseMove, QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)),
-                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &move);
-}
-
-void clickOn(QWidget* widget) {
-    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent event(type, QPointF(2, 2), widget->mapToGlobal(QPointF(2, 2)), Qt::LeftButton,
-                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
-                          Qt::NoModifier);
-        QCoreApplication::sendEvent(widget, &event);
-    }
-}
-
-} // namespace
-
 // Through the menus: fields emptied to 0 in the dialog, the advanced choices kept
 // while their group is hidden, the hints, and the remembered keys written.
 TEST(TableDialog, FromEachViewByItsMenu) {
@@ -109,10 +99,7 @@ TEST(TableDialog, FromEachViewByItsMenu) {
     v.zelvo.ui.mnuinstable->trigger();
     table& t = v.program.forms->get<table>();
     ASSERT_TRUE(t.isVisible());
-    t.ui.txtrow.setText("1");
-    t.ui.txtcelpad.setText("");
-    t.ui.cmbAlign->setCurrentText("Centre");
-    t.ui.chkAdvanced->click();
+    fillIn(t.window(), {"txtrow=1", "txtcelpad=", "cmbAlign=Centre", "chkAdvanced"});
     t.ui.cmbCaptionSide->setCurrentIndex(1);
     t.ui.chkAdvanced->click();
     EXPECT_FALSE(t.ui.frmAdvanced->isVisible());

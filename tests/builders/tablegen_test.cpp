@@ -4,19 +4,13 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 using namespace zt;
 using namespace zt::test;
-
-namespace {
 
 const QString kDefaultRows =
     "\r\n\r\n<tr>\r\n   <td> Row 1 Col 1</td>\r\n   <td> Row 1 Col 2</td>\r\n"
     "</tr>\r\n\r\n<tr>\r\n   <td> Row 2 Col 1</td>\r\n"
     "   <td> Row 2 Col 2</td>\r\n</tr>\r\n</TABLE>";
-
-} // namespace
 
 TEST(TableMarkup, AttributesStyleAlignmentAndCells) {
     const struct {

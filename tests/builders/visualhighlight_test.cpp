@@ -2,8 +2,6 @@
 
 #include "builders/highlight.h"
 
-#include <gtest/gtest.h>
-
 using namespace zt;
 using namespace zt::test;
 

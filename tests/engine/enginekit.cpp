@@ -16,8 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-
 namespace zt::test {
 
 namespace {

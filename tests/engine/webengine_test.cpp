@@ -7,7 +7,6 @@
 #include "platform/engine/pendinganswer.h"
 #include "platform/engine/webengine.h"
 #include "platform/guard.h"
-#include "platform/runtimefailure.h"
 #include "support/failureof.h"
 
 #include <QCoreApplication>
@@ -21,8 +20,6 @@
 #include <QWidget>
 
 #include <gtest/gtest.h>
-
-#include <chrono>
 
 namespace zt::test {
 namespace {

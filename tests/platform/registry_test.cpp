@@ -1,5 +1,4 @@
 #include "platform/engine/pageengine.h"
-#include "platform/formregistry.h"
 #include "platform/textcontrol.h"
 #include "support/testprogram.h"
 

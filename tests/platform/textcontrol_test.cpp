@@ -1,4 +1,3 @@
-#include "platform/textcontrol.h"
 #include "support/markedtext.h"
 #include "testhelpers.h"
 

@@ -12,7 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <vector>
 
 using namespace zt;

@@ -3,7 +3,6 @@
 #include "testhelpers.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 using namespace zt;
 using namespace zt::vb;
 using zt::test::failureOf;

@@ -1,7 +1,6 @@
 #include "views.h"
 
 #include "platform/guard.h"
-#include "platform/runtimefailure.h"
 #include "safety/finalsave.h"
 
 #include <QDir>

@@ -9,8 +9,6 @@
 using namespace zt;
 using namespace zt::test;
 
-namespace {
-
 const QString kR1 = R"(<META NAME="GENERATOR" Content="Microsoft DHTML Editing Control">)";
 const QString kR1After = R"(<META NAME="GENERATOR" Content="Zelvo Tessara">)";
 const QString kR2 = R"(<META content="MSHTML 6.00.2800.1106" name=GENERATOR>)";
@@ -18,8 +16,6 @@ const QString kR3 = R"(<META content="MSHTML 6.00.2600.0" name=GENERATOR>)";
 const QString kPage = "<HTML><HEAD>\r\n" + kR1 + "\r\n" + kR2 + "\r\n" + kR3 +
                       "\r\n<meta content=\"MSHTML 6.00.2800.1106\" name=GENERATOR>\r\n"
                       "</HEAD><BODY><P>x</P></BODY></HTML>";
-
-} // namespace
 
 // The removed lines leave their breaks behind, and another case is another text.
 TEST(Bridge, EachCallerScrubsWithItsOwnRules) {

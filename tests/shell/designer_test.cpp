@@ -1,4 +1,4 @@
-#include "views.h"
+#include "builders/builderkit.h"
 
 #include "designer/bodyof.h"
 #include "designer/medithtml.h"
@@ -7,11 +7,10 @@
 #include "designer/prewizard.h"
 
 #include "platform/engine/memoryengine.h"
-#include "platform/prompts.h"
+#include "support/failureof.h"
 
 #include <QComboBox>
 #include <QDir>
-#include <QFile>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -36,11 +35,9 @@ const QString kBox = QStringLiteral(
     "<div id=\"MorvaneForm\" style=\"position:relative;left:0px;top:0px;width:400px;"
     "height:300px;background-color:#FFFFFF;color:#000000;border-width:1;border-style:solid;\">");
 
-struct Designer : Views {
+struct Designer : BuilderViews {
     morvane& m = program.forms->get<morvane>();
     PageEngine& Result() { return *m.ui.Result; }
-    template <class F> bool loaded() const { return program.forms->isLoaded<F>(); }
-    void settle() { program.forms->collectUnloaded(); }
     QByteArray bytes(const QString& path) {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
@@ -107,12 +104,8 @@ TEST(Designer, BodyOfCutsBetweenTheFirstBareBodyAndTheLastEnd) {
     for (const auto& c : cases)
         EXPECT_EQ(BodyOf(c.page), c.body) << c.page.toStdString();
     EXPECT_EQ(BodyOf("<body>" + QString(32760, 'x') + "</body>").size(), 32760);
-    try {
-        BodyOf("<body>" + QString(32761, 'x') + "</body>");
-        ADD_FAILURE() << "an end beyond 32767 overflows";
-    } catch (const RuntimeFailure& e) {
-        EXPECT_EQ(e.number(), RuntimeFailure::Overflow);
-    }
+    EXPECT_EQ(failureOf([] { BodyOf("<body>" + QString(32761, 'x') + "</body>"); }),
+              RuntimeFailure::Overflow);
 }
 
 TEST(Designer, SaveAndOpenDesignFiles) {
@@ -178,15 +171,16 @@ TEST(Designer, BoxColoursReplaceTheOldColourEverywhere) {
 
 TEST(Designer, PreviewTurnsOffTheInsertsAndTheEditMenuAndBack) {
     Designer d;
+    // Preview, browse mode, then the inserts and the Edit menu; the rest stays enabled.
     for (const bool on : {true, false}) {
         d.m.ui.mnuPreview->trigger();
-        EXPECT_EQ(d.m.ui.mnuPreview->isChecked(), on);
-        EXPECT_EQ(d.Result().browseMode(), on);
-        EXPECT_EQ(d.m.ui.toolbar->isEnabled(), !on);
-        EXPECT_EQ(d.m.ui.mnuInsert->isEnabled(), !on);
-        EXPECT_EQ(d.m.ui.mnuEdit->isEnabled(), !on);
-        EXPECT_TRUE(d.m.ui.mnuMormat->isEnabled() && d.m.ui.mnuFile->isEnabled());
-        EXPECT_TRUE(d.m.ui.btnGenerate->isEnabled() && d.m.ui.Toolbar1->isEnabled());
+        const auto& ui = d.m.ui;
+        EXPECT_EQ(std::vector({ui.mnuPreview->isChecked(), d.Result().browseMode(),
+                               ui.toolbar->isEnabled(), ui.mnuInsert->isEnabled(),
+                               ui.mnuEdit->isEnabled()}),
+                  std::vector({on, on, !on, !on, !on}));
+        EXPECT_TRUE(ui.mnuMormat->isEnabled() && ui.mnuFile->isEnabled() &&
+                    ui.btnGenerate->isEnabled() && ui.Toolbar1->isEnabled());
     }
 }
 
@@ -227,10 +221,9 @@ TEST(Designer, GenerateEndsInTheViewThatOpenedTheDesigner) {
     EXPECT_TRUE(pre.isVisible() && d.m.isVisible());
     pre.ui.OKButton->click();
     EXPECT_EQ(question(d.program), "Please fill in the required fields|Morvane|64");
-    pre.ui.txtFormName.setText("f");
-    pre.ui.txtFormAction.setText("go.cgi");
-    pre.ui.cmbAction->setCurrentText("get");
-    pre.ui.OKButton->click();
+    const QStringList fields = {"txtFormName=f", "txtFormAction=go.cgi", "cmbAction=get",
+                                "OKButton"};
+    fillIn(pre.window(), fields);
     const QString code = "<!-- Form Code by Morvane: By Orvek -->\r\n<br><form name=\"f\" "
                          "method=\"get\" action=\"go.cgi\">\r\n" +
                          kBox + "\r\n\r\n</form><br>\r\n<!-- End of form -->";
@@ -242,11 +235,7 @@ TEST(Designer, GenerateEndsInTheViewThatOpenedTheDesigner) {
     static_cast<MemoryEngine&>(d.txtComp()).setSelection(0, 0);
     d.run([&] { d.tessara.mnuMorvane(); });
     d.m.ui.btnGenerate->click();
-    prewizard& again = d.program.forms->get<prewizard>();
-    again.ui.txtFormName.setText("f");
-    again.ui.txtFormAction.setText("go.cgi");
-    again.ui.cmbAction->setCurrentText("get");
-    again.ui.OKButton->click();
+    fillIn(d.program.forms->get<prewizard>().window(), fields);
     EXPECT_FALSE(d.txtComp().documentHTML().contains("Form Code"));
     d.tessara.ui.Timer1.fire();
     EXPECT_TRUE(d.txtComp().documentHTML().contains(code));

@@ -1,7 +1,5 @@
 #include "views.h"
 
-#include "platform/runtimefailure.h"
-
 #include <QAction>
 
 #include <gtest/gtest.h>

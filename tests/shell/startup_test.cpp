@@ -1,8 +1,7 @@
-#include "views.h"
+#include "builders/builderkit.h"
 
 #include "help/frmhelp.h"
 #include "platform/engine/memoryengine.h"
-#include "platform/runtimefailure.h"
 #include "platform/texteditview.h"
 #include "shell/frmsplash.h"
 #include "shell/optfunctions.h"
@@ -18,8 +17,6 @@
 #include <QSet>
 
 #include <gtest/gtest.h>
-
-#include <optional>
 
 using namespace zt;
 using namespace zt::test;
@@ -112,10 +109,7 @@ TEST(Assistant, LoadFillsTheRecentListAndCaptionsOrHidesBothMenus) {
         setMru(v.program, key, QString("/p/%1.html").arg(key));
     StartUp& assistant = v.program.forms->get<StartUp>();
     QListWidget& list = *assistant.ui.listRecent;
-    QStringList listed;
-    for (int row = 0; row < list.count(); ++row)
-        listed << list.item(row)->text();
-    EXPECT_EQ(listed, QStringList({"/p/1.html", "/p/3.html", "/p/5.html"}));
+    EXPECT_EQ(rowsOf(&list), QStringList({"/p/1.html", "/p/3.html", "/p/5.html"}));
     // Keys one to five caption menu entries zero to four; an entry without a key hides.
     const QStringList menus = {"/p/1.html", "", "/p/3.html", "", "/p/5.html"};
     for (std::size_t i = 0; i < 5; ++i)

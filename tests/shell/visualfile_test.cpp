@@ -1,7 +1,6 @@
 #include "views.h"
 
 #include "platform/engine/pageengine.h"
-#include "platform/runtimefailure.h"
 
 #include <QAction>
 

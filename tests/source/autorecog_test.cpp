@@ -3,12 +3,7 @@
 
 #include "builders/frmrow.h"
 
-#include "platform/texteditview.h"
-
-#include <QApplication>
 #include <QMenu>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;

@@ -2,25 +2,16 @@
 #include "source/areafixture.h"
 #include "source/findme.h"
 
-#include "platform/texteditview.h"
-#include "platform/textlineview.h"
-
 #include <QAction>
 #include <QCheckBox>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 using namespace zt;
 using namespace zt::test;
 
-namespace {
-
 const QString kLong(33000, u'x');
-
-} // namespace
 
 // Each row runs its commands in turn: s Smart Select, e Find End Tag, d Auto Delete,
 // f Find (F with Match Case) of typed, n Find Next of typed.

@@ -7,15 +7,10 @@
 #include "source/taglist.h"
 
 #include "platform/backcolor.h"
-#include "platform/texteditview.h"
 
-#include <QApplication>
-#include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 using namespace zt;
 using namespace zt::test;
@@ -30,12 +25,7 @@ struct TagListView : BuilderViews {
         selectInArea("x");
     }
     QListWidget& list() { return *zelvo.ui.lstAllTags; }
-    QStringList lines() {
-        QStringList all;
-        for (int i = 0; i < list().count(); ++i)
-            all << list().item(i)->text();
-        return all;
-    }
+    QStringList lines() { return rowsOf(&list()); }
     QString selected() { return list().currentItem() ? list().currentItem()->text() : "(none)"; }
     // The user's double click on the first line that reads line.
     void doubleClick(const QString& line) {

@@ -11,11 +11,7 @@
 using namespace zt;
 using namespace zt::test;
 
-namespace {
-
 using Command = void (Zelvo::*)();
-
-} // namespace
 
 TEST(TextTransforms, SurroundsAndInsertionsLeaveTheCaretBehindWithNothingSelected) {
     const std::pair<Command, QString> cases[] = {
