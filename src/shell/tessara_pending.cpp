@@ -35,7 +35,6 @@ void Tessara::mnuStyleSheet() {}
 void Tessara::mnuNavigator() {}
 void Tessara::mnuFTPClient() {}
 void Tessara::mnuFileViewer() {}
-void Tessara::mnuJavaScriptCons() {}
 void Tessara::mnuPlugIn() {}
 void Tessara::mnuHTMLtutor() {}
 void Tessara::mnuTips() {}
