@@ -31,7 +31,6 @@ void Tessara::mnuConvTemplate() {}
 void Tessara::mnuImportTemplate() {}
 void Tessara::mnuMoreTemplates() {}
 void Tessara::mnuLayoutManager() {}
-void Tessara::mnuStyleSheet() {}
 void Tessara::mnuNavigator() {}
 void Tessara::mnuFTPClient() {}
 void Tessara::mnuFileViewer() {}

@@ -35,7 +35,6 @@ void Zelvo::mnuCreateTemplate() {}
 void Zelvo::mnuImportTemplate() {}
 void Zelvo::mnuMoreTemplates() {}
 void Zelvo::mnuLayoutManager() {}
-void Zelvo::mnuStyleSheet() {}
 void Zelvo::mnuNavigator() {}
 void Zelvo::mnuFTPClient() {}
 void Zelvo::mnuPlugIn() {}
