@@ -19,20 +19,16 @@ TEST(StyleSheetPage, ItsControlsWriteTheRuleAndStyleTheSample) {
     styleSheet* step = nullptr;
     program->event([&] { step = &program->forms->get<styleSheet>(); });
     ASSERT_TRUE(step);
-    auto& page = static_cast<WebPageEngine&>(*step->ui.webber);
-    const QVariant answer = evaluate(page, R"((function () {
-        function set(id, value, kind) {
-            var control = document.getElementById(id);
+    const QVariant answer = evaluate(static_cast<WebPageEngine&>(*step->ui.webber), R"((() => {
+        for (const [id, value, kind] of [["element", "h1", "change"], ["color", "navy", "input"],
+                 ["fontSize", "20", "input"], ["borderStyle", "solid", "change"],
+                 ["borderWidth", "2", "input"]]) {
+            const control = document.getElementById(id);
             control.value = value;
             control.dispatchEvent(new Event(kind, {bubbles: true}));
         }
-        set("element", "h1", "change");
-        set("color", "navy", "input");
-        set("fontSize", "20", "input");
-        set("borderStyle", "solid", "change");
-        set("borderWidth", "2", "input");
         document.getElementById("add").click();
-        var heading = getComputedStyle(document.querySelector("#sample h1"));
+        const heading = getComputedStyle(document.querySelector("#sample h1"));
         return [document.getElementById("rule").value, document.getElementById("sheet").value,
                 heading.color, heading.borderTopStyle].join("|");
     })())");
