@@ -148,7 +148,8 @@ QString hyperlinks::fragment() {
                          .screenTip = ui.txtScreentip.text(),
                          .noUnderline = ui.chkNoUnderline->isChecked(),
                          .target = forms().get<target>().ui.txtTarget.text(),
-                         .text = ui.txtTextToDisp.text()});
+                         .text = ui.txtTextToDisp.text(),
+                         .forConsole = ui.compOrEdit.text() == caller::kConsole});
 }
 
 void hyperlinks::listBookMarks_Click() {

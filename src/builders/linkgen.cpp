@@ -41,7 +41,8 @@ QString titleAndStyle(const QString& screenTip, bool noUnderline) {
 
 QString hyperlinkTag(const HyperlinkValues& v) {
     return QStringLiteral(R"(<A%1 href="%2")").arg(v.rel, v.link) +
-           titleAndStyle(v.screenTip, v.noUnderline) + v.target + u'>' + v.text +
+           titleAndStyle(v.screenTip, v.noUnderline) + v.target +
+           (v.forConsole ? QStringLiteral(" >") : QStringLiteral(">")) + v.text +
            QStringLiteral("</A>");
 }
 

@@ -33,6 +33,9 @@ struct HyperlinkValues {
     // The whole attribute with its leading blank, or empty.
     QString target{};
     QString text{};
+    // For the JavaScript Console the opening tag closes with ` >`, so that the
+    // handlers it adds before the `>` stand apart from the last attribute.
+    bool forConsole = false;
 };
 
 // `<A{rel} href="{link}"{ TITLE="tip"}{ STYLE="text-decoration:none"}{target}>{text}</A>`

@@ -24,10 +24,8 @@ void Tessara::mnuMarquee() {}
 void Tessara::mnuInsLayer() {}
 void Tessara::mnuFlash() {}
 void Tessara::mnuStripHTML() {}
-void Tessara::mnuStyleSheet() {}
 void Tessara::mnuFTPClient() {}
 void Tessara::mnuFileViewer() {}
-void Tessara::mnuJavaScriptCons() {}
 void Tessara::mnuPlugIn() {}
 void Tessara::mnuHTMLtutor() {}
 void Tessara::mnuTips() {}

@@ -26,7 +26,6 @@ void Zelvo::mnuFlash() {}
 void Zelvo::mnuMakeDefault() {}
 void Zelvo::mnuBookmarkPage() {}
 void Zelvo::mnuChangePointer() {}
-void Zelvo::mnuStyleSheet() {}
 void Zelvo::mnuFTPClient() {}
 void Zelvo::mnuPlugIn() {}
 void Zelvo::mnuHTMLtutorial() {}

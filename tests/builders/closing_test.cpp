@@ -12,10 +12,12 @@ using namespace zt;
 // namespaces of their own. The form dialog is not in the list: it stays open.
 TEST(Closing, EveryFormOfTheProgramIsInTheListOrStays) {
     const QStringList stay =
-        QStringLiteral("Zelvo Tessara frmHelp morvane MHelp Mwizard MeditHTML prewizard formForm "
-                       "MformTextbox MformTextArea MformButton MformRadChk MformList MformFile "
-                       "MformFieldset MformHidden restore crashRecover TempClip templates "
-                       "frmMoreTemp NavMaker NavListURLs LManager LBoxProps LEditHTML LHelp")
+        QStringLiteral(
+            "Zelvo Tessara frmHelp morvane MHelp Mwizard MeditHTML prewizard formForm "
+            "MformTextbox MformTextArea MformButton MformRadChk MformList MformFile "
+            "MformFieldset MformHidden restore crashRecover TempClip templates "
+            "frmMoreTemp NavMaker NavListURLs LManager LBoxProps LEditHTML LHelp styleSheet "
+            "styleSheetWiz")
             .split(' ');
     ASSERT_TRUE(formNames().contains("rule"));
     for (const QString& name : formNames()) {
