@@ -1,5 +1,6 @@
 #include "crashrecover.h"
 
+#include "shell/document.h"
 #include "shell/modapi.h"
 #include "shell/optfunctions.h"
 #include "shell/startup.h"
@@ -20,8 +21,6 @@
 namespace zt {
 
 namespace {
-
-const QString kTitle = QStringLiteral("Assistant: Zelvo");
 
 Field fileList(FileListBox*& list) {
     return widget("FileCrash", [&list](QWidget* parent) {
@@ -73,7 +72,7 @@ void crashRecover::load() {
         services().prompts->msgBox(
             QStringLiteral("Error 04:\r\nUnable to perform requested action. "
                            "Crash folder might have been removed or moved"),
-            vbCritical, kTitle);
+            vbCritical, document::kAssistant);
         unload();
     }
 }
@@ -96,7 +95,7 @@ void crashRecover::btnConfigure_Click() {
         unload();
     } catch (const RuntimeFailure&) {
         services().prompts->msgBox(QStringLiteral("Request could not be processed..."), vbCritical,
-                                   kTitle);
+                                   document::kAssistant);
         unload();
     }
 }
@@ -106,7 +105,7 @@ void crashRecover::btnDisableCRW_Click() {
     forms().get<Tessara>().ui.TimeCrashSave.setEnabled(true);
     services().prompts->msgBox(
         QStringLiteral("Crash Recovery Wizard has been disabled successfully."), vbInformation,
-        kTitle);
+        document::kAssistant);
     unload();
 }
 
@@ -115,7 +114,7 @@ void crashRecover::btnLoad_Click() {
         hide();
         // An OK alone: the question decides nothing.
         services().prompts->msgBox(QStringLiteral("Are you sure you want to load this document?"),
-                                   vbCritical, kTitle);
+                                   vbCritical, document::kAssistant);
         SwitchToVisual(forms());
         forms().get<Tessara>().ui.txtComp->loadDocument(
             services().folder->path(QStringLiteral("crash")) + QLatin1Char('/') +
@@ -125,7 +124,7 @@ void crashRecover::btnLoad_Click() {
         services().prompts->msgBox(
             QStringLiteral(
                 "Error 05:\r\nAn error occured when trying to perform requested operation"),
-            vbCritical, kTitle);
+            vbCritical, document::kAssistant);
         unload();
     }
 }

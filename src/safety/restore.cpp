@@ -1,5 +1,6 @@
 #include "restore.h"
 
+#include "shell/document.h"
 #include "shell/modapi.h"
 #include "shell/optfunctions.h"
 #include "shell/tessara.h"
@@ -27,8 +28,6 @@
 namespace zt {
 
 namespace {
-
-const QString kTitle = QStringLiteral("Assistant: Zelvo");
 
 // A button that Enter never presses unless it has the focus: Enter in the name box
 // sets a point, it does not restore one.
@@ -175,7 +174,7 @@ void restore::btnSet_Click() {
 
 void restore::sayFailed(const QString& text) {
     hide();
-    services().prompts->msgBox(text, vbCritical, kTitle);
+    services().prompts->msgBox(text, vbCritical, document::kAssistant);
     show();
 }
 
@@ -203,7 +202,7 @@ void restore::OKButton_Click() {
     const int answer = services().prompts->msgBox(
         QStringLiteral("Using Restore Point is going to take your page back to the last time "
                        "Restore Point was created. Proceed?"),
-        vbYesNo | vbQuestion, kTitle);
+        vbYesNo | vbQuestion, document::kAssistant);
     if (answer == vbYes) {
         forms().get<Zelvo>().ui.area.setText(ui.txtRestore.text());
         forms().get<Tessara>().ui.txtComp->setDocumentHTML(ui.txtRestore.text());

@@ -1,5 +1,6 @@
 #include "tempclip.h"
 
+#include "shell/document.h"
 #include "shell/modapi.h"
 #include "shell/optfunctions.h"
 #include "shell/zelvo.h"
@@ -19,8 +20,6 @@
 namespace zt {
 
 namespace {
-
-const QString kTitle = QStringLiteral("Assistant: Zelvo");
 
 // A list that takes any drop; what was dropped does not matter to it.
 class DropList : public QListWidget {
@@ -140,7 +139,8 @@ void TempClip::btnPaste_Click() {
 void TempClip::btnRemove_Click() {
     const int row = ui.listClip->currentRow();
     if (row < 0) {
-        services().prompts->msgBox(QStringLiteral("No item selected"), vbExclamation, kTitle);
+        services().prompts->msgBox(QStringLiteral("No item selected"), vbExclamation,
+                                   document::kAssistant);
         return;
     }
     delete ui.listClip->takeItem(row);
@@ -148,7 +148,8 @@ void TempClip::btnRemove_Click() {
 
 void TempClip::btnClear_Click() {
     if (services().prompts->msgBox(QStringLiteral("This will clear Temporary Clipboard. Proceed?"),
-                                   vbYesNo | vbQuestion | vbDefaultButton2, kTitle) == vbYes)
+                                   vbYesNo | vbQuestion | vbDefaultButton2,
+                                   document::kAssistant) == vbYes)
         ui.listClip->clear();
 }
 

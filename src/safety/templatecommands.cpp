@@ -2,6 +2,7 @@
 #include "templates.h"
 
 #include "help/frmmoretemp.h"
+#include "shell/document.h"
 #include "shell/startup.h"
 #include "shell/tessara.h"
 #include "shell/zelvo.h"
@@ -74,7 +75,7 @@ void importTemplate(FormRegistry& forms) {
     } catch (const RuntimeFailure&) {
         services.prompts->msgBox(
             QStringLiteral("An error occurred while trying to perform the action"), vbCritical,
-            QStringLiteral("Assistant: Zelvo"));
+            document::kAssistant);
     }
 }
 

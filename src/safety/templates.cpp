@@ -1,5 +1,6 @@
 #include "templates.h"
 
+#include "shell/document.h"
 #include "shell/modapi.h"
 #include "shell/startup.h"
 #include "shell/tessara.h"
@@ -108,7 +109,7 @@ void templates::OKButton_Click() {
             ui.listTemplates->currentItem() ? ui.listTemplates->currentItem()->text() : QString();
         const int answer = services().prompts->msgBox(
             QStringLiteral("Are you sure you want to close existing document?"),
-            vbYesNo | vbQuestion | vbDefaultButton2, QStringLiteral("Assistant: Zelvo"));
+            vbYesNo | vbQuestion | vbDefaultButton2, document::kAssistant);
         Tessara& tessara = forms().get<Tessara>();
         if (answer == vbYes) {
             forms().get<Zelvo>().hide();
